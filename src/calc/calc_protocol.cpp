@@ -1,0 +1,69 @@
+#include "calc/calc_protocol.h"
+
+#include "calc/function_calls.h"
+#include "calc/json_result.h"
+#include "calc/request_args.h"
+#include "numeric/numeric_fault.h"
+
+#include <nlohmann/json.hpp>
+
+namespace kestrova::calc {
+
+namespace {
+
+std::string errorAnswer(const std::string& id, const std::string& message)
+{
+    return JsonObject().raw("id", id).boolean("ok", false).text("error", message).str();
+}
+
+std::string faultAnswer(const std::string& id, const std::string& where)
+{
+    return JsonObject().raw("id", id).boolean("ok", false).text("fault", "numeric").text("at", where).str();
+}
+
+std::string dispatch(const nlohmann::json& request, const std::string& id)
+{
+    if (!request.is_object())
+        throw RequestError("a request must be a JSON object");
+    const auto call = request.find("call");
+    if (call == request.end() || !call->is_string())
+        throw RequestError("missing \"call\"");
+    const auto& calls = functionCalls();
+    const auto handler = calls.find(call->get<std::string>());
+    if (handler == calls.end())
+        throw RequestError("unknown call '" + call->get<std::string>() + "'");
+
+    static const nlohmann::json noArgs = nlohmann::json::object();
+    const auto args = request.find("args");
+    if (args != request.end() && !args->is_object())
+        throw RequestError("\"args\" must be a JSON object");
+    JsonObject result;
+    handler->second(RequestArgs(args == request.end() ? noArgs : *args), result);
+    return JsonObject().raw("id", id).boolean("ok", true).raw("result", result.str()).str();
+}
+
+} // namespace
+
+std::string answerRequest(std::string_view line)
+{
+    nlohmann::json request;
+    try {
+        request = nlohmann::json::parse(line);
+    } catch (const nlohmann::json::parse_error& error) {
+        return errorAnswer("null", std::string("the line is not valid JSON: ") + error.what());
+    }
+    std::string id = "null";
+    if (request.is_object() && request.contains("id"))
+        id = request["id"].dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
+    try {
+        return dispatch(request, id);
+    } catch (const NumericFault& fault) {
+        return faultAnswer(id, fault.where());
+    } catch (const RequestError& error) {
+        return errorAnswer(id, error.what());
+    } catch (const std::exception& error) {
+        return errorAnswer(id, std::string("the request could not be answered: ") + error.what());
+    }
+}
+
+} // namespace kestrova::calc

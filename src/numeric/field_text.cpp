@@ -1,0 +1,82 @@
+#include "numeric/field_text.h"
+
+#include "numeric/numeric_fault.h"
+
+#include <cctype>
+#include <cerrno>
+#include <clocale>
+#include <cmath>
+#include <cstdlib>
+#include <locale.h>
+#include <string>
+
+namespace kestrova {
+
+namespace {
+
+// The plain decimal form, in C notation: sign, digits with at most one point
+// (at least one digit), then an optional exponent.
+bool isPlainNumber(const std::string& s)
+{
+    size_t i = 0;
+    if (i < s.size() && (s[i] == '+' || s[i] == '-'))
+        ++i;
+    size_t digits = 0;
+    while (i < s.size() && std::isdigit(static_cast<unsigned char>(s[i]))) {
+        ++i;
+        ++digits;
+    }
+    if (i < s.size() && s[i] == '.') {
+        ++i;
+        while (i < s.size() && std::isdigit(static_cast<unsigned char>(s[i]))) {
+            ++i;
+            ++digits;
+        }
+    }
+    if (digits == 0)
+        return false;
+    if (i < s.size() && (s[i] == 'e' || s[i] == 'E')) {
+        ++i;
+        if (i < s.size() && (s[i] == '+' || s[i] == '-'))
+            ++i;
+        size_t exponentDigits = 0;
+        while (i < s.size() && std::isdigit(static_cast<unsigned char>(s[i]))) {
+            ++i;
+            ++exponentDigits;
+        }
+        if (exponentDigits == 0)
+            return false;
+    }
+    return i == s.size();
+}
+
+locale_t cLocale()
+{
+    static const locale_t locale = newlocale(LC_ALL_MASK, "C", static_cast<locale_t>(nullptr));
+    return locale;
+}
+
+} // namespace
+
+double parseFieldNumber(std::string_view text, char groupSeparator, char decimalPoint)
+{
+    while (!text.empty() && std::isspace(static_cast<unsigned char>(text.front())))
+        text.remove_prefix(1);
+    while (!text.empty() && std::isspace(static_cast<unsigned char>(text.back())))
+        text.remove_suffix(1);
+    std::string plain;
+    plain.reserve(text.size());
+    for (char c : text) {
+        if (c != groupSeparator)
+            plain.push_back(c == decimalPoint ? '.' : c);
+    }
+    if (!isPlainNumber(plain))
+        return 0.0;
+    errno = 0;
+    const double value = strtod_l(plain.c_str(), nullptr, cLocale());
+    if (errno == ERANGE && std::isinf(value))
+        raiseFault(FaultKind::Overflow, "a field's number");
+    return value;
+}
+
+} // namespace kestrova
