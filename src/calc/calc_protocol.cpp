@@ -37,8 +37,12 @@ std::string dispatch(const nlohmann::json& request, const std::string& id)
     const auto args = request.find("args");
     if (args != request.end() && !args->is_object())
         throw RequestError("\"args\" must be a JSON object");
+    const nlohmann::json& given = args == request.end() ? noArgs : *args;
+    for (const std::string& name : handler->second.arguments)
+        if (!given.contains(name))
+            throw RequestError("missing argument '" + name + "'");
     JsonObject result;
-    handler->second(RequestArgs(args == request.end() ? noArgs : *args), result);
+    handler->second.run(RequestArgs(given), result);
     return JsonObject().raw("id", id).boolean("ok", true).raw("result", result.str()).str();
 }
 
@@ -49,7 +53,7 @@ std::string answerRequest(std::string_view line)
     nlohmann::json request;
     try {
         request = nlohmann::json::parse(line);
-    } catch (const nlohmann::json::parse_error& error) {
+    } catch (const nlohmann::json::exception& error) {
         return errorAnswer("null", std::string("the line is not valid JSON: ") + error.what());
     }
     std::string id = "null";

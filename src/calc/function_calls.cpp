@@ -12,32 +12,32 @@ namespace kestrova::calc {
 
 namespace {
 
-using Calls = std::map<std::string, CallHandler, std::less<>>;
+using Calls = std::map<std::string, CallSpec, std::less<>>;
 
 void addFrictionCalls(Calls& calls)
 {
-    calls["ReynoldsNumber"] = [](const RequestArgs& a, JsonObject& r) {
+    calls["ReynoldsNumber"] = {{"density", "diameter", "velocity", "viscosity", "kind", "dimension1", "dimension2"}, [](const RequestArgs& a, JsonObject& r) {
         r.single("value", ReynoldsNumber(a.single("density"), a.single("diameter"), a.single("velocity"),
                                          a.single("viscosity"), a.integer16("kind"), a.single("dimension1"),
                                          a.single("dimension2")));
-    };
-    calls["ReynoldsFromMassFlow"] = [](const RequestArgs& a, JsonObject& r) {
+    }};
+    calls["ReynoldsFromMassFlow"] = {{"diameter", "massFlow", "viscosity"}, [](const RequestArgs& a, JsonObject& r) {
         r.real("value", ReynoldsFromMassFlow(a.single("diameter"), a.single("massFlow"), a.single("viscosity")));
-    };
-    calls["FrictionFactor"] = [](const RequestArgs& a, JsonObject& r) {
+    }};
+    calls["FrictionFactor"] = {{"reynolds", "relativeRoughness", "kind", "aspectRatio", "diameterRatio"}, [](const RequestArgs& a, JsonObject& r) {
         r.single("value", FrictionFactor(a.single("reynolds"), a.single("relativeRoughness"), a.integer16("kind"),
                                          a.single("aspectRatio"), a.single("diameterRatio")));
-    };
-    calls["FlowVelocity"] = [](const RequestArgs& a, JsonObject& r) {
+    }};
+    calls["FlowVelocity"] = {{"massFlow", "density", "diameter"}, [](const RequestArgs& a, JsonObject& r) {
         r.single("value", FlowVelocity(a.single("massFlow"), a.single("density"), a.single("diameter")));
-    };
-    calls["StraightRunDrop"] = [](const RequestArgs& a, JsonObject& r) {
+    }};
+    calls["StraightRunDrop"] = {{"frictionFactor", "length", "diameter", "velocity"}, [](const RequestArgs& a, JsonObject& r) {
         r.single("value", StraightRunDrop(a.single("frictionFactor"), a.single("length"), a.single("diameter"),
                                           a.single("velocity")));
-    };
-    calls["MinorLossDrop"] = [](const RequestArgs& a, JsonObject& r) {
+    }};
+    calls["MinorLossDrop"] = {{"resistanceCoefficient", "velocity"}, [](const RequestArgs& a, JsonObject& r) {
         r.single("value", MinorLossDrop(a.single("resistanceCoefficient"), a.single("velocity")));
-    };
+    }};
 }
 
 GasLineInlet gasLineInlet(const RequestArgs& a)
@@ -61,23 +61,23 @@ void writeGasOutlet(const GasLineOutlet& out, const RecordedFeedback& user, bool
 
 void addGasFlowCalls(Calls& calls)
 {
-    calls["AdiabaticGasFlow"] = [](const RequestArgs& a, JsonObject& r) {
+    calls["AdiabaticGasFlow"] = {{"massFlow", "flowArea", "temperature", "pressure", "compressibility", "molecularWeight", "heatCapacityRatio", "pipeResistance", "fittingResistance"}, [](const RequestArgs& a, JsonObject& r) {
         GasLineOutlet out;
         RecordedFeedback user;
         AdiabaticGasFlow(gasLineInlet(a), out, user);
         writeGasOutlet(out, user, true, r);
-    };
-    calls["IsothermalGasFlow"] = [](const RequestArgs& a, JsonObject& r) {
+    }};
+    calls["IsothermalGasFlow"] = {{"massFlow", "flowArea", "temperature", "pressure", "compressibility", "molecularWeight", "heatCapacityRatio", "pipeResistance", "fittingResistance"}, [](const RequestArgs& a, JsonObject& r) {
         GasLineOutlet out;
         RecordedFeedback user;
         IsothermalGasFlow(gasLineInlet(a), out, user);
         writeGasOutlet(out, user, false, r);
-    };
+    }};
 }
 
 void addTwoPhaseCalls(Calls& calls)
 {
-    calls["TwoPhaseDrop"] = [](const RequestArgs& a, JsonObject& r) {
+    calls["TwoPhaseDrop"] = {{"orientation", "diameter", "roughness", "gasFlow", "liquidFlow", "gasDensity", "liquidDensity", "gasViscosity", "liquidViscosity", "surfaceTension", "length"}, [](const RequestArgs& a, JsonObject& r) {
         const TwoPhaseLine line{a.text("orientation"),    a.single("diameter"),       a.single("roughness"),
                                 a.single("gasFlow"),      a.single("liquidFlow"),     a.single("gasDensity"),
                                 a.single("liquidDensity"), a.single("gasViscosity"),  a.single("liquidViscosity"),
@@ -97,40 +97,40 @@ void addTwoPhaseCalls(Calls& calls)
         else
             r.null("pressureDrop");
         r.text("mapCoordinates", out.mapCoordinates);
-    };
-    calls["FlowRegimeMap"] = [](const RequestArgs& a, JsonObject& r) {
+    }};
+    calls["FlowRegimeMap"] = {{"orientation", "liquidFlux", "gasFlux", "liquidDensity", "gasDensity", "liquidViscosity", "surfaceTension"}, [](const RequestArgs& a, JsonObject& r) {
         Single liquidFlux = a.single("liquidFlux");
         Single gasFlux = a.single("gasFlux");
         const RegimeMapReading reading =
             FlowRegimeMap(a.text("orientation"), liquidFlux, gasFlux, a.single("liquidDensity"),
                           a.single("gasDensity"), a.single("liquidViscosity"), a.single("surfaceTension"));
         r.text("regime", reading.regime).text("mapCoordinates", reading.mapCoordinates);
-    };
+    }};
 }
 
 void addOrificeCalls(Calls& calls)
 {
-    calls["OrificeDischargeCoefficient"] = [](const RequestArgs& a, JsonObject& r) {
+    calls["OrificeDischargeCoefficient"] = {{"D", "beta", "Re", "tap"}, [](const RequestArgs& a, JsonObject& r) {
         std::string message = a.textOr("message", "");
         const Single C = OrificeDischargeCoefficient(a.single("D"), a.single("beta"), a.single("Re"),
                                                      a.integer16("tap"), message);
         r.single("value", C).text("message", message);
-    };
-    calls["OrificeThermalFactor"] = [](const RequestArgs& a, JsonObject& r) {
+    }};
+    calls["OrificeThermalFactor"] = {{"beta", "alphaElement", "alphaPipe", "temperature", "referenceTemperature"}, [](const RequestArgs& a, JsonObject& r) {
         r.single("value", OrificeThermalFactor(a.single("beta"), a.single("alphaElement"), a.single("alphaPipe"),
                                                a.single("temperature"), a.single("referenceTemperature")));
-    };
-    calls["OrificeDrainHoleFactor"] = [](const RequestArgs& a, JsonObject& r) {
+    }};
+    calls["OrificeDrainHoleFactor"] = {{"beta", "holeDiameter", "D"}, [](const RequestArgs& a, JsonObject& r) {
         r.single("value", OrificeDrainHoleFactor(a.single("beta"), a.single("holeDiameter"), a.single("D")));
-    };
+    }};
 }
 
 void addPropertyCalls(Calls& calls)
 {
-    calls["PropertyCorrelation"] = [](const RequestArgs& a, JsonObject& r) {
+    calls["PropertyCorrelation"] = {{"T", "Tc", "coefficients", "equation"}, [](const RequestArgs& a, JsonObject& r) {
         r.real("value", PropertyCorrelation(a.real("T"), a.real("Tc"), a.reals<5>("coefficients"),
                                             a.integer16("equation")));
-    };
+    }};
 }
 
 void addConversionCalls(Calls& calls)
@@ -153,28 +153,28 @@ void addConversionCalls(Calls& calls)
         {"HeadToUnit", HeadToUnit},
     };
     for (const auto& [name, convert] : conversions) {
-        calls[name] = [convert = convert](const RequestArgs& a, JsonObject& r) {
+        calls[name] = {{"value", "index"}, [convert = convert](const RequestArgs& a, JsonObject& r) {
             r.real("value", convert(a.real("value"), a.integer16("index")));
-        };
+        }};
     }
-    calls["DensityProductToUnit"] = [](const RequestArgs& a, JsonObject& r) {
+    calls["DensityProductToUnit"] = {{"value", "b", "index"}, [](const RequestArgs& a, JsonObject& r) {
         r.real("value", DensityProductToUnit(a.real("value"), a.real("b"), a.integer16("index")));
-    };
+    }};
 }
 
 void addFieldCalls(Calls& calls)
 {
-    calls["Format"] = [](const RequestArgs& a, JsonObject& r) {
+    calls["Format"] = {{"value", "mask"}, [](const RequestArgs& a, JsonObject& r) {
         r.text("text", formatMask(a.real("value"), a.text("mask")));
-    };
-    calls["ParseNumber"] = [](const RequestArgs& a, JsonObject& r) {
+    }};
+    calls["ParseNumber"] = {{"text"}, [](const RequestArgs& a, JsonObject& r) {
         r.real("value", parseFieldNumber(a.text("text")));
-    };
+    }};
 }
 
 } // namespace
 
-const std::map<std::string, CallHandler, std::less<>>& functionCalls()
+const std::map<std::string, CallSpec, std::less<>>& functionCalls()
 {
     static const Calls calls = [] {
         Calls all;

@@ -9,11 +9,17 @@
 #include <functional>
 #include <map>
 #include <string>
+#include <vector>
 
 namespace kestrova::calc {
 
 using CallHandler = std::function<void(const RequestArgs&, JsonObject& result)>;
 
-const std::map<std::string, CallHandler, std::less<>>& functionCalls();
+struct CallSpec {
+    std::vector<std::string> arguments; // required, in the program's order
+    CallHandler run;
+};
+
+const std::map<std::string, CallSpec, std::less<>>& functionCalls();
 
 } // namespace kestrova::calc

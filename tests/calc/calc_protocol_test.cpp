@@ -1,0 +1,144 @@
+#include "calc/calc_protocol.h"
+#include "calc/function_calls.h"
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include <string>
+
+using kestrova::calc::answerRequest;
+using nlohmann::json;
+
+namespace {
+
+json answer(const std::string& line)
+{
+    const std::string text = answerRequest(line);
+    EXPECT_EQ(text.find('\n'), std::string::npos) << text;
+    return json::parse(text); // every answer is one JSON object
+}
+
+json call(const std::string& name, const json& args)
+{
+    return answer(json{{"id", 1}, {"call", name}, {"args", args}}.dump());
+}
+
+} // namespace
+
+TEST(CalcProtocol, FunctionCallAnswersWithNineDigitSingles)
+{
+    EXPECT_EQ(answerRequest(R"({"id": 17, "call": "FrictionFactor", "args": {"reynolds": 100000, "relativeRoughness": 0.0002, "kind": 1, "aspectRatio": 1, "diameterRatio": 1}})"),
+              R"({"id": 17, "ok": true, "result": {"value": 0.0190032367}})");
+    // Doubles print with 17 digits.
+    EXPECT_EQ(answerRequest(R"({"id": 2, "call": "PascalToUnit", "args": {"value": 101325, "index": 0}})"),
+              R"({"id": 2, "ok": true, "result": {"value": 14.695975349999999}})");
+}
+
+TEST(CalcProtocol, IdIsEchoedAsGiven)
+{
+    EXPECT_EQ(answer(R"({"id": "case-7", "call": "MinorLossDrop", "args": {"resistanceCoefficient": 1, "velocity": 8.0218}})")["id"], "case-7");
+    EXPECT_EQ(answer(R"({"id": {"a": [1, 2]}, "call": "Nope"})")["id"], json({{"a", {1, 2}}}));
+    EXPECT_TRUE(answer(R"({"call": "MinorLossDrop", "args": {"resistanceCoefficient": 1, "velocity": 2}})")["id"].is_null());
+}
+
+TEST(CalcProtocol, ArgumentsAreRoundedLikeTheProgramsArguments)
+{
+    // 0.3 as a single argument is 0.300000011920929...
+    const double v = static_cast<double>(0.3f);
+    EXPECT_EQ(call("MinorLossDrop", {{"resistanceCoefficient", 1}, {"velocity", 0.3}})["result"]["value"].get<float>(),
+              static_cast<float>(v * v / 64.3484));
+    // A kind of 1.4 rounds to the integer 1; 2.5 to the even 2.
+    const json pipe = call("FrictionFactor", {{"reynolds", 1000}, {"relativeRoughness", 0}, {"kind", 1.4}, {"aspectRatio", 1}, {"diameterRatio", 1}});
+    EXPECT_EQ(pipe["result"]["value"].get<float>(), 0.064f);
+    const json duct = call("FrictionFactor", {{"reynolds", 1000}, {"relativeRoughness", 0}, {"kind", 2.5}, {"aspectRatio", 1}, {"diameterRatio", 1}});
+    EXPECT_NEAR(duct["result"]["value"].get<double>(), 0.0569128, 1e-7);
+}
+
+TEST(CalcProtocol, NumericFaultsAreAnswers)
+{
+    const json fault = call("FrictionFactor", {{"reynolds", 0}, {"relativeRoughness", 0}, {"kind", 1}, {"aspectRatio", 1}, {"diameterRatio", 1}});
+    EXPECT_EQ(fault["ok"], false);
+    EXPECT_EQ(fault["fault"], "numeric");
+    EXPECT_NE(fault["at"].get<std::string>().find("FrictionFactor"), std::string::npos);
+    // A huge argument cannot be a single; a huge integer cannot be 16 bits.
+    EXPECT_EQ(call("MinorLossDrop", {{"resistanceCoefficient", 1e300}, {"velocity", 1}})["fault"], "numeric");
+    EXPECT_EQ(call("TemperatureToUnit", {{"value", 1}, {"index", 70000}})["fault"], "numeric");
+    // A conversion that leaves the double range faults rather than print infinity.
+    EXPECT_EQ(call("PressureToUnit", {{"value", 1e306}, {"index", 6}})["fault"], "numeric");
+    EXPECT_EQ(call("ParseNumber", {{"text", "1e999"}})["fault"], "numeric");
+}
+
+TEST(CalcProtocol, MalformedRequestsGetAClearError)
+{
+    for (const char* line : {"not json", "{\"id\": 1, \"call\": ", "[1, 2]", "42", "{\"id\": 3}",
+                             "{\"id\": 3, \"call\": 5}", "{\"id\": 3, \"call\": \"Unknown\"}",
+                             "{\"id\": 3, \"call\": \"FlowVelocity\", \"args\": [1]}",
+                             "{\"id\": 3, \"call\": \"FlowVelocity\", \"args\": {\"massFlow\": 1}}",
+                             "{\"id\": 3, \"call\": \"FlowVelocity\", \"args\": {\"massFlow\": \"NaN\", \"density\": 1, \"diameter\": 1}}",
+                             "{\"id\": 3, \"call\": \"FlowVelocity\", \"args\": {\"massFlow\": NaN, \"density\": 1, \"diameter\": 1}}",
+                             "{\"id\": 3, \"call\": \"FlowVelocity\", \"args\": {\"massFlow\": 1e400, \"density\": 1, \"diameter\": 1}}",
+                             "{\"id\": 3, \"call\": \"PropertyCorrelation\", \"args\": {\"T\": 300, \"Tc\": 600, \"coefficients\": [1, 2], \"equation\": 7}}",
+                             "{\"id\": 3, \"call\": \"Format\", \"args\": {\"value\": 1, \"mask\": 5}}",
+                             "\xff\xfe"}) {
+        const json reply = answer(line);
+        EXPECT_EQ(reply["ok"], false) << line;
+        EXPECT_TRUE(reply["error"].is_string() && !reply["error"].get<std::string>().empty()) << line;
+    }
+    const json missing = answer(R"({"id": 3, "call": "FlowVelocity", "args": {"massFlow": 1}})");
+    EXPECT_NE(missing["error"].get<std::string>().find("density"), std::string::npos);
+}
+
+TEST(CalcProtocol, GasFlowReportsMessagesAndBeeps)
+{
+    const json args = {{"massFlow", 30000}, {"flowArea", 0.0884}, {"temperature", 100}, {"pressure", 100},
+                       {"compressibility", 1}, {"molecularWeight", 28.97}, {"heatCapacityRatio", 1.4},
+                       {"pipeResistance", 500}, {"fittingResistance", 0}};
+    const json adiabatic = call("AdiabaticGasFlow", args)["result"];
+    EXPECT_EQ(adiabatic["flowType"], "Choked Flow at Outlet");
+    EXPECT_EQ(adiabatic["beeps"], 1);
+    EXPECT_EQ(adiabatic["messages"], json::array());
+    EXPECT_TRUE(adiabatic.contains("outletTemperature"));
+    const json isothermal = call("IsothermalGasFlow", args)["result"];
+    EXPECT_FALSE(isothermal.contains("outletTemperature"));
+    EXPECT_EQ(isothermal["beeps"], 1);
+}
+
+TEST(CalcProtocol, TwoPhaseWithoutCorrelationWritesNoPressureDrop)
+{
+    const json args = {{"orientation", "Vertical Up"}, {"diameter", 4.026}, {"roughness", 0.00015},
+                       {"gasFlow", 5000}, {"liquidFlow", 20000}, {"gasDensity", 0.5}, {"liquidDensity", 62},
+                       {"gasViscosity", 0.0078125}, {"liquidViscosity", 7.8125}, {"surfaceTension", 0.07}, {"length", 100}};
+    const json result = call("TwoPhaseDrop", args)["result"];
+    EXPECT_EQ(result["correlation"], "N/A");
+    EXPECT_TRUE(result["pressureDrop"].is_null());
+    EXPECT_EQ(result["mapCoordinates"].get<std::string>().rfind("Flow Regime Map:  X = ", 0), 0u);
+}
+
+TEST(CalcProtocol, OrificeMessageIsPassedInAndOut)
+{
+    json args = {{"D", 4.026}, {"beta", 0.5}, {"Re", 1e5}, {"tap", 0}, {"message", "kept"}};
+    EXPECT_EQ(call("OrificeDischargeCoefficient", args)["result"]["message"], "kept");
+    args["beta"] = 0.8;
+    EXPECT_EQ(call("OrificeDischargeCoefficient", args)["result"]["message"],
+              "Warning, Beta ratio outside the range:  0.1 <= Beta (d/D) <= 0.75");
+}
+
+TEST(CalcProtocol, FormatParseAndEveryConversionByName)
+{
+    EXPECT_EQ(call("Format", {{"value", 0}, {"mask", "#,###,###"}})["result"]["text"], "");
+    EXPECT_EQ(call("ParseNumber", {{"text", "1,234.5"}})["result"]["value"], 1234.5);
+    EXPECT_EQ(call("ParseNumber", {{"text", "abc"}})["result"]["value"], 0);
+    EXPECT_EQ(call("DensityProductToUnit", {{"value", 2}, {"b", 500}, {"index", 1}})["result"]["value"], 1);
+    for (const char* name : {"TemperatureToUnit", "TemperatureFromUnit", "PressureToUnit", "PressureFromUnit",
+                             "PascalToUnit", "DensityToUnit", "DensityFromUnit", "ViscosityToUnit",
+                             "ViscosityFromUnit", "SurfaceTensionToUnit", "SurfaceTensionFromUnit",
+                             "RoughnessToUnit", "RoughnessFromUnit", "FlowToUnit", "FlowFromUnit",
+                             "VelocityToUnit", "VelocityFromUnit", "LengthToUnit", "LengthFromUnit",
+                             "DiameterToUnit", "DiameterFromUnit", "HeatCapacityToUnit", "HeatCapacityFromUnit",
+                             "ExpansionToUnit", "ExpansionFromUnit", "PowerToUnit", "HeadToUnit"}) {
+        const json reply = call(name, {{"value", 10}, {"index", 1}});
+        EXPECT_EQ(reply["ok"], true) << name;
+        EXPECT_TRUE(reply["result"]["value"].is_number()) << name;
+    }
+    EXPECT_EQ(call("TemperatureToUnit", {{"value", 32}, {"index", 1}})["result"]["value"], 0);
+}
