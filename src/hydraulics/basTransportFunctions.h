@@ -100,6 +100,10 @@ struct RegimeMapReading {
     std::string mapCoordinates; // "Flow Regime Map:  X = ... , Y = ..."
 };
 
+// The regime at map coordinates X and Y, or a range text ("X>10000", "X<0.1",
+// "Y>100000", "Y<100"), or "N/A" for an orientation without a map.
+std::string RegimeAt(const std::string& orientation, Single X, Single Y);
+
 // liquidFlux and gasFlux (lb/(ft2 s)) are multiplied in place by 3600.
 RegimeMapReading FlowRegimeMap(const std::string& orientation, Single& liquidFlux, Single& gasFlux,
                                Single liquidDensity, Single gasDensity, Single liquidViscosity,

@@ -104,6 +104,23 @@ std::string readMap(const std::vector<Row>& rows, Single X, Single Y)
 
 } // namespace
 
+std::string RegimeAt(const std::string& orientation, Single X, Single Y)
+{
+    if (X > 10000)
+        return "X>10000";
+    if (X < 0.1)
+        return "X<0.1";
+    if (Y > 100000)
+        return "Y>100000";
+    if (Y < 100)
+        return "Y<100";
+    if (orientation == "Horizontal")
+        return readMap(horizontalMap(), X, Y);
+    if (orientation == "Vertical Up")
+        return readMap(verticalMap(), X, Y);
+    return "N/A";
+}
+
 RegimeMapReading FlowRegimeMap(const std::string& orientation, Single& liquidFlux, Single& gasFlux,
                                Single liquidDensity, Single gasDensity, Single liquidViscosity,
                                Single surfaceTension)
@@ -118,20 +135,7 @@ RegimeMapReading FlowRegimeMap(const std::string& orientation, Single& liquidFlu
 
     RegimeMapReading reading;
     reading.mapCoordinates = "Flow Regime Map:  X = " + formatMask(X, "##,##0.0") + " , " + "Y = " + formatMask(Y, "###,##0.0");
-    if (X > 10000)
-        reading.regime = "X>10000";
-    else if (X < 0.1)
-        reading.regime = "X<0.1";
-    else if (Y > 100000)
-        reading.regime = "Y>100000";
-    else if (Y < 100)
-        reading.regime = "Y<100";
-    else if (orientation == "Horizontal")
-        reading.regime = readMap(horizontalMap(), X, Y);
-    else if (orientation == "Vertical Up")
-        reading.regime = readMap(verticalMap(), X, Y);
-    else
-        reading.regime = "N/A";
+    reading.regime = RegimeAt(orientation, X, Y);
     return reading;
 }
 

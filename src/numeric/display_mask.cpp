@@ -200,3 +200,25 @@ std::string formatMask(double value, std::string_view mask, NumberSymbols symbol
 }
 
 } // namespace kestrova
+
+namespace kestrova {
+
+std::string plainNumberText(double value)
+{
+    if (!std::isfinite(value))
+        raiseFault(FaultKind::Overflow, "a displayed value");
+    if (value == 0.0)
+        return "0";
+    char buffer[40];
+    std::snprintf(buffer, sizeof buffer, "%.7g", value);
+    std::string text = buffer;
+    const auto e = text.find('e');
+    if (e == std::string::npos)
+        return text;
+    // "1.5e-05" becomes "1.5E-05".
+    std::string mantissa = text.substr(0, e);
+    std::string exponent = text.substr(e + 1);
+    return mantissa + "E" + exponent;
+}
+
+} // namespace kestrova

@@ -21,3 +21,12 @@ struct NumberSymbols {
 std::string formatMask(double value, std::string_view mask, NumberSymbols symbols = {});
 
 } // namespace kestrova
+
+namespace kestrova {
+
+// A number as plain text, the way a number without a mask is shown: up to
+// seven significant digits, no trailing zeros, "1.5E-05" for small and large
+// magnitudes.
+std::string plainNumberText(double value);
+
+} // namespace kestrova

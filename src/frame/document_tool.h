@@ -1,0 +1,22 @@
+#pragma once
+// What the frame knows of a document tool: its file name, and the two
+// operations it calls by name on the active one.
+
+#include <cstdint>
+#include <string>
+
+namespace kestrova {
+
+class DocumentTool {
+public:
+    virtual ~DocumentTool() = default;
+    virtual std::string strFileName() const = 0;
+    virtual void setStrFileName(const std::string& path) = 0;
+    // "Open", "Save" or "Save As"; false when the file was refused or not written.
+    virtual bool OpenSaveData(const std::string& operation) = 0;
+    virtual void PrintDataSheet() = 0;
+    virtual std::string toolTitle() const = 0;
+    virtual std::int16_t fileKind() const = 0;
+};
+
+} // namespace kestrova

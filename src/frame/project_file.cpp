@@ -1,0 +1,141 @@
+#include "frame/project_file.h"
+
+#include <QFile>
+#include <QSaveFile>
+#include <QtEndian>
+
+#include <array>
+#include <cstring>
+
+namespace kestrova {
+
+namespace {
+
+// Windows-1252 code points of bytes 0x80 to 0x9F; 0 marks an unused byte.
+constexpr std::array<char16_t, 32> kHighControls{
+    0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0,      0x017D, 0,      0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178};
+
+constexpr std::int16_t kVariantString = 8;
+
+char encode(char16_t c)
+{
+    if (c < 0x80 || (c >= 0xA0 && c <= 0xFF))
+        return static_cast<char>(c);
+    for (size_t i = 0; i < kHighControls.size(); ++i)
+        if (kHighControls[i] == c)
+            return static_cast<char>(0x80 + i);
+    return '?';
+}
+
+} // namespace
+
+QByteArray toWindows1252(const std::string& utf8)
+{
+    const QString text = QString::fromStdString(utf8);
+    QByteArray bytes;
+    bytes.reserve(text.size());
+    for (QChar c : text)
+        bytes.append(encode(c.unicode()));
+    return bytes;
+}
+
+std::string fromWindows1252(const QByteArray& bytes)
+{
+    QString text;
+    text.reserve(bytes.size());
+    for (char b : bytes) {
+        const auto u = static_cast<unsigned char>(b);
+        const char16_t mapped = (u >= 0x80 && u < 0xA0) ? kHighControls[u - 0x80] : u;
+        text.append(QChar(mapped ? mapped : u));
+    }
+    return text.toStdString();
+}
+
+void RecordWriter::integer16(std::int16_t value)
+{
+    char raw[2];
+    qToLittleEndian(value, raw);
+    bytes_.append(raw, 2);
+}
+
+void RecordWriter::single(Single value)
+{
+    char raw[4];
+    qToLittleEndian(value.value(), raw);
+    bytes_.append(raw, 4);
+}
+
+void RecordWriter::text(const std::string& utf8)
+{
+    const QByteArray encoded = toWindows1252(utf8).left(32767);
+    integer16(kVariantString);
+    integer16(static_cast<std::int16_t>(encoded.size()));
+    bytes_.append(encoded);
+}
+
+const char* RecordReader::take(qsizetype count)
+{
+    if (position_ + count > bytes_.size())
+        throw DamagedFileError("The file ends before its data do.");
+    const char* at = bytes_.constData() + position_;
+    position_ += count;
+    return at;
+}
+
+std::int16_t RecordReader::integer16()
+{
+    return qFromLittleEndian<std::int16_t>(take(2));
+}
+
+Single RecordReader::single()
+{
+    const float value = qFromLittleEndian<float>(take(4));
+    if (!std::isfinite(value))
+        throw DamagedFileError("The file holds a number that is not one.");
+    return static_cast<double>(value);
+}
+
+std::string RecordReader::text()
+{
+    if (integer16() != kVariantString)
+        throw DamagedFileError("The file holds a text that is not one.");
+    const std::int16_t length = integer16();
+    if (length < 0)
+        throw DamagedFileError("The file holds a text that is not one.");
+    return fromWindows1252(QByteArray(take(length), length));
+}
+
+bool readWholeFile(const QString& path, QByteArray& bytes)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    bytes = file.readAll();
+    return file.error() == QFileDevice::NoError;
+}
+
+std::string writeFileSafely(const QString& path, const QByteArray& bytes)
+{
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return file.errorString().toStdString();
+    if (file.write(bytes) != bytes.size()) {
+        const std::string error = file.errorString().toStdString();
+        file.cancelWriting();
+        return error;
+    }
+    if (!file.commit())
+        return file.errorString().toStdString();
+    return {};
+}
+
+std::int16_t fileKindOf(const QByteArray& bytes)
+{
+    if (bytes.size() < 2)
+        return 0;
+    return qFromLittleEndian<std::int16_t>(bytes.constData());
+}
+
+} // namespace kestrova

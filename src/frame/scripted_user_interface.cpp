@@ -1,0 +1,61 @@
+#include "frame/scripted_user_interface.h"
+
+#include "tools/properties/phys_props.h"
+
+namespace kestrova {
+
+MessageAnswer ScriptedUserInterface::ask(const std::string& title, const std::string& text, MessageIcon icon,
+                                         MessageButtons buttons, MessageAnswer defaultAnswer)
+{
+    messages.push_back({title, text, icon, buttons});
+    if (answers.empty())
+        return defaultAnswer;
+    const MessageAnswer answer = answers.front();
+    answers.pop_front();
+    return answer;
+}
+
+bool ScriptedUserInterface::runSaveAs()
+{
+    if (saveAsAnswers.empty())
+        return false;
+    const bool saved = saveAsAnswers.front();
+    saveAsAnswers.pop_front();
+    return saved;
+}
+
+Single ScriptedUserInterface::next(std::deque<Single>& script)
+{
+    if (script.empty())
+        return 0.0;
+    const Single value = script.front();
+    script.pop_front();
+    return value;
+}
+
+Single ScriptedUserInterface::SelectPipeID(const std::string& selector)
+{
+    pipeSelectors.push_back(selector);
+    return next(pipeAnswers);
+}
+
+void ScriptedUserInterface::GetKValue()
+{
+    ++kValueCalls;
+}
+
+Single ScriptedUserInterface::GetFlowrateConversion(int fluid)
+{
+    flowFluids.push_back(fluid);
+    return next(flowAnswers);
+}
+
+void ScriptedUserInterface::GetPhysicalProperties(FluidKind, Single)
+{
+    const bool applied = !propertiesApplied.empty() && propertiesApplied.front();
+    if (!propertiesApplied.empty())
+        propertiesApplied.pop_front();
+    propertiesCancelled() = !applied;
+}
+
+} // namespace kestrova

@@ -1,0 +1,83 @@
+#include "frame/settings_store.h"
+
+#include <QDir>
+#include <QSettings>
+#include <QStandardPaths>
+
+namespace kestrova {
+
+namespace {
+
+QString defaultPath()
+{
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+    return QDir(folder).filePath("Kestrova/Kestrova.ini");
+}
+
+std::unique_ptr<SettingsStore>& userStore()
+{
+    static std::unique_ptr<SettingsStore> store;
+    return store;
+}
+
+QString keyPath(const std::string& section, const std::string& key)
+{
+    return QString::fromStdString(section) + '/' + QString::fromStdString(key);
+}
+
+} // namespace
+
+SettingsStore::SettingsStore(const QString& iniPath)
+    : settings_(std::make_unique<QSettings>(iniPath, QSettings::IniFormat))
+{
+}
+
+SettingsStore::~SettingsStore() = default;
+
+SettingsStore& SettingsStore::user()
+{
+    auto& store = userStore();
+    if (!store)
+        store = std::make_unique<SettingsStore>(defaultPath());
+    return *store;
+}
+
+void SettingsStore::useFile(const QString& iniPath)
+{
+    userStore() = std::make_unique<SettingsStore>(iniPath);
+}
+
+std::string SettingsStore::get(const std::string& section, const std::string& key, const std::string& defaultText) const
+{
+    const QVariant value = settings_->value(keyPath(section, key));
+    return value.isValid() ? value.toString().toStdString() : defaultText;
+}
+
+int SettingsStore::getInteger(const std::string& section, const std::string& key, int defaultValue) const
+{
+    bool ok = false;
+    const int value = QString::fromStdString(get(section, key, std::to_string(defaultValue))).trimmed().toInt(&ok);
+    return ok ? value : defaultValue;
+}
+
+void SettingsStore::save(const std::string& section, const std::string& key, const std::string& text)
+{
+    settings_->setValue(keyPath(section, key), QString::fromStdString(text));
+}
+
+void SettingsStore::remove(const std::string& section, const std::string& key)
+{
+    settings_->remove(keyPath(section, key));
+}
+
+void SettingsStore::sync()
+{
+    settings_->sync();
+}
+
+QString SettingsStore::fileName() const
+{
+    return settings_->fileName();
+}
+
+} // namespace kestrova

@@ -1,0 +1,40 @@
+#pragma once
+// The per-user settings store: text values addressed by section and key, in
+// an INI file of the user's configuration folder under the application name
+// "Kestrova". Everything is read and written as text.
+
+#include <QString>
+
+#include <memory>
+#include <string>
+
+class QSettings;
+
+namespace kestrova {
+
+class SettingsStore {
+public:
+    // The store at an explicit INI path (tests, or a portable set-up).
+    explicit SettingsStore(const QString& iniPath);
+    ~SettingsStore();
+    SettingsStore(const SettingsStore&) = delete;
+    SettingsStore& operator=(const SettingsStore&) = delete;
+
+    // The user's own store.
+    static SettingsStore& user();
+    // Points user() at another file; tests use it to keep the user's store untouched.
+    static void useFile(const QString& iniPath);
+
+    std::string get(const std::string& section, const std::string& key, const std::string& defaultText) const;
+    int getInteger(const std::string& section, const std::string& key, int defaultValue) const;
+    void save(const std::string& section, const std::string& key, const std::string& text);
+    void remove(const std::string& section, const std::string& key);
+    void sync();
+
+    QString fileName() const;
+
+private:
+    std::unique_ptr<QSettings> settings_;
+};
+
+} // namespace kestrova

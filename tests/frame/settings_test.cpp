@@ -1,0 +1,88 @@
+#include "frame/global_units.h"
+#include "frame/recent_files.h"
+#include "frame/settings_store.h"
+
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+using namespace kestrova;
+
+class SettingsTest : public testing::Test {
+protected:
+    SettingsTest() : store(dir.filePath("Kestrova.ini")) {}
+    QTemporaryDir dir;
+    SettingsStore store;
+};
+
+TEST_F(SettingsTest, AnEmptyStoreGivesEveryDefault)
+{
+    EXPECT_EQ(store.get("Settings", "DataBaseLocation", "default"), "default");
+    EXPECT_EQ(store.getInteger("Settings", "PipeClass", 0), 0);
+    GlobalUnits units;
+    units.load(store);
+    EXPECT_EQ(units[Quantity::SurfaceTension], 1);
+    EXPECT_EQ(units[Quantity::Roughness], 1);
+    EXPECT_EQ(units[Quantity::Velocity], 1);
+    EXPECT_EQ(units[Quantity::Length], 1);
+    EXPECT_EQ(units[Quantity::Temperature], 0);
+}
+
+TEST_F(SettingsTest, KeysAreKeptBySectionAndRemovedQuietly)
+{
+    store.save("Settings", "Disclaimer Show", "False");
+    store.sync();
+    SettingsStore again(dir.filePath("Kestrova.ini"));
+    EXPECT_EQ(again.get("Settings", "Disclaimer Show", "True"), "False");
+    again.remove("Settings", "Disclaimer Show");
+    again.remove("Settings", "No Such Key");
+    EXPECT_EQ(again.get("Settings", "Disclaimer Show", "True"), "True");
+}
+
+TEST_F(SettingsTest, HeatCapacityHeadAndPowerUnitsAreWrittenButNotRead)
+{
+    GlobalUnits units;
+    units[Quantity::HeatCapacity] = 2;
+    units[Quantity::Head] = 1;
+    units[Quantity::Pressure] = 5;
+    units.save(store);
+    EXPECT_EQ(store.get("Units", "CPUnits", ""), "2");
+    GlobalUnits loaded;
+    loaded.load(store);
+    EXPECT_EQ(loaded[Quantity::Pressure], 5);
+    EXPECT_EQ(loaded[Quantity::HeatCapacity], 0);
+    EXPECT_EQ(loaded[Quantity::Head], 0);
+}
+
+TEST_F(SettingsTest, RecentFilesMoveToTheTopAndOnlyFourAreRead)
+{
+    RecentFiles recent;
+    for (int i = 1; i <= 6; ++i)
+        recent.add("f" + std::to_string(i) + ".ksv", "/p/f" + std::to_string(i) + ".ksv", store);
+    EXPECT_EQ(recent.entries().size(), 6u);
+    EXPECT_EQ(recent.entries().front().title, "f6.ksv");
+    EXPECT_EQ(recent.menuCaption(1), "&1 f6.ksv");
+    recent.add("f3.ksv", "/p/f3.ksv", store); // re-opening moves it up
+    EXPECT_EQ(recent.entries().size(), 6u);
+    EXPECT_EQ(recent.entries()[0].path, "/p/f3.ksv");
+    EXPECT_EQ(recent.entries()[3].path, "/p/f4.ksv");
+
+    RecentFiles next;
+    next.load(store);
+    ASSERT_EQ(next.entries().size(), 4u);
+    EXPECT_EQ(next.entries()[0].title, "f3.ksv");
+    EXPECT_EQ(store.get("MRU", "File1", ""), "/p/f3.ksv");
+}
+
+TEST_F(SettingsTest, LoadingStopsAtTheFirstEmptyTitle)
+{
+    store.save("MRU", "Title1", "a.ksv");
+    store.save("MRU", "File1", "/a.ksv");
+    store.save("MRU", "Title3", "c.ksv");
+    store.save("MRU", "File3", "/c.ksv");
+    RecentFiles recent;
+    recent.load(store);
+    ASSERT_EQ(recent.entries().size(), 1u);
+    recent.save(store); // places beyond the list are removed
+    EXPECT_EQ(store.get("MRU", "Title3", "gone"), "gone");
+}
