@@ -1,6 +1,8 @@
 #include "calc/function_calls.h"
 
-#include "calc/recorded_feedback.h"
+#include "calc/tool_calls.h"
+#include "calc/tool_report.h"
+#include "frame/scripted_user_interface.h"
 #include "hydraulics/basTransportFunctions.h"
 #include "numeric/display_mask.h"
 #include "numeric/field_text.h"
@@ -47,7 +49,7 @@ GasLineInlet gasLineInlet(const RequestArgs& a)
             a.single("heatCapacityRatio"), a.single("pipeResistance"),  a.single("fittingResistance")};
 }
 
-void writeGasOutlet(const GasLineOutlet& out, const RecordedFeedback& user, bool withTemperature, JsonObject& r)
+void writeGasOutlet(const GasLineOutlet& out, const ScriptedUserInterface& user, bool withTemperature, JsonObject& r)
 {
     r.single("sonicVelocity", out.sonicVelocity).single("outletPressure", out.outletPressure);
     if (withTemperature)
@@ -55,7 +57,7 @@ void writeGasOutlet(const GasLineOutlet& out, const RecordedFeedback& user, bool
     r.single("inletMach", out.inletMach)
         .single("outletMach", out.outletMach)
         .text("flowType", out.flowType)
-        .raw("messages", user.messagesJson())
+        .raw("messages", messagesJson(user))
         .integer("beeps", user.beeps);
 }
 
@@ -63,13 +65,13 @@ void addGasFlowCalls(Calls& calls)
 {
     calls["AdiabaticGasFlow"] = {{"massFlow", "flowArea", "temperature", "pressure", "compressibility", "molecularWeight", "heatCapacityRatio", "pipeResistance", "fittingResistance"}, [](const RequestArgs& a, JsonObject& r) {
         GasLineOutlet out;
-        RecordedFeedback user;
+        ScriptedUserInterface user;
         AdiabaticGasFlow(gasLineInlet(a), out, user);
         writeGasOutlet(out, user, true, r);
     }};
     calls["IsothermalGasFlow"] = {{"massFlow", "flowArea", "temperature", "pressure", "compressibility", "molecularWeight", "heatCapacityRatio", "pipeResistance", "fittingResistance"}, [](const RequestArgs& a, JsonObject& r) {
         GasLineOutlet out;
-        RecordedFeedback user;
+        ScriptedUserInterface user;
         IsothermalGasFlow(gasLineInlet(a), out, user);
         writeGasOutlet(out, user, false, r);
     }};
@@ -185,6 +187,7 @@ const std::map<std::string, CallSpec, std::less<>>& functionCalls()
         addPropertyCalls(all);
         addConversionCalls(all);
         addFieldCalls(all);
+        addToolCalls(all);
         return all;
     }();
     return calls;

@@ -2,6 +2,7 @@
 // standard input and answers each request with one line on standard output.
 
 #include "calc/calc_protocol.h"
+#include "calc/open_file.h"
 
 #include <iostream>
 #include <string>
@@ -36,9 +37,16 @@ int answerStandardInput()
 
 int main(int argc, char** argv)
 {
+    const std::string option = argc > 1 ? argv[1] : "";
+    if (argc == 3 && option == "--open") {
+        bool ok = false;
+        std::cout << kestrova::calc::openProjectFile(argv[2], ok) << '\n';
+        return ok ? 0 : 1;
+    }
     if (argc > 1) {
-        std::cerr << "kestrova-calc: unknown argument '" << argv[1] << "'\n"
-                  << "usage: kestrova-calc < requests.jsonl\n";
+        std::cerr << "kestrova-calc: unknown arguments\n"
+                  << "usage: kestrova-calc < requests.jsonl\n"
+                  << "       kestrova-calc --open FILE.ksv\n";
         return 2;
     }
     return answerStandardInput();

@@ -30,6 +30,7 @@ public:
     std::string textOr(const std::string& name, const std::string& fallback) const;
     template <std::size_t N>
     std::array<double, N> reals(const std::string& name) const;
+    const nlohmann::json& raw() const { return args_; }
 
 private:
     const nlohmann::json& value(const std::string& name) const;

@@ -179,6 +179,14 @@ void PressureDropModel::txtData_LostFocus(int index)
     if (index < 0 || index >= kPressureDropFields)
         return;
     ChangeNotice notice(*this);
+    commitFieldText(index);
+    CalculateResults();
+}
+
+void PressureDropModel::commitFieldText(int index)
+{
+    if (index < 0 || index >= kPressureDropFields)
+        return;
     const FieldBinding& field = pressureDropField(index);
     try {
         const double typed = parseFieldNumber(txtData[static_cast<size_t>(index)].text);
@@ -187,7 +195,6 @@ void PressureDropModel::txtData_LostFocus(int index)
         // A number that no single can hold is not taken: the stored value stays.
     }
     showField(index);
-    CalculateResults();
 }
 
 void PressureDropModel::txtDisplay_LostFocus(int index)
@@ -195,6 +202,14 @@ void PressureDropModel::txtDisplay_LostFocus(int index)
     if (index < 0 || index >= kDisplays)
         return;
     ChangeNotice notice(*this);
+    commitDisplayText(index);
+    CalculateResults();
+}
+
+void PressureDropModel::commitDisplayText(int index)
+{
+    if (index < 0 || index >= kDisplays)
+        return;
     TextControl& display = txtDisplay[static_cast<size_t>(index)];
     switch (index) {
     case 0: case 7: case 12: case 18: case 19: case 20:
@@ -214,7 +229,6 @@ void PressureDropModel::txtDisplay_LostFocus(int index)
     default:
         break;
     }
-    CalculateResults();
 }
 
 void PressureDropModel::Form_KeyPress()
@@ -236,13 +250,21 @@ void PressureDropModel::optCrossSection_Click(int index)
     ChangeNotice notice(*this);
     for (int field : {5, 15, 35})
         txtData_LostFocus(field);
+    selectCrossSection(index);
+    setDirty();
+    CalculateResults();
+}
+
+void PressureDropModel::selectCrossSection(int index)
+{
+    if (index < 0 || index > 5)
+        return;
+    ChangeNotice notice(*this);
     if (index < 3)
         crossSectionLiquid = index;
     else
         crossSectionGas = index;
     applyCrossSection(index < 3, index % 3);
-    setDirty();
-    CalculateResults();
 }
 
 void PressureDropModel::setKFieldsLook(const std::array<int, 3>& fields, int labelIndex, bool enabled)
@@ -307,10 +329,18 @@ void PressureDropModel::optOrientation_Click(int index)
     if (index < 0 || index > 2)
         return;
     ChangeNotice notice(*this);
+    selectOrientation(index);
+    CalculateResults();
+}
+
+void PressureDropModel::selectOrientation(int index)
+{
+    if (index < 0 || index > 2)
+        return;
+    ChangeNotice notice(*this);
     orientation = index;
     cmdTable[13].enabled = index != 2;
     cmdTable[13].caption = index == 2 ? kCrossCaption : kArrowCaption;
-    CalculateResults();
 }
 
 void PressureDropModel::showKSums()

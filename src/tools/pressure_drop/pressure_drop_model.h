@@ -76,6 +76,12 @@ public:
     void cmdProperties_Click(int index);
     void cmdReset_Click(int index);
     void Form_KeyPress(); // any key typed in the form marks the data as changed
+    // An option set without its click routine: the form follows, nothing runs.
+    void selectCrossSection(int index);
+    void selectOrientation(int index);
+    // The storing part of leaving a field, without the calculation that follows.
+    void commitFieldText(int index);
+    void commitDisplayText(int index);
     void CalculateResults();
 
     // --- DocumentTool ---------------------------------------------------------

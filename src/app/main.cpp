@@ -1,0 +1,71 @@
+// Kestrova: the start of the desktop program. One instance per user; the
+// splash while the frame loads; the disclaimer while its flag is set.
+
+#include "frame/auxiliary_dialogs.h"
+#include "frame/frmMain.h"
+#include "frame/settings_store.h"
+#include "platform/single_instance.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QMessageBox>
+#include <QTimer>
+
+namespace {
+
+constexpr int kSplashMilliseconds = 3250;
+
+// Waits while the splash is shown, painting as the time passes.
+void waitShowing(int milliseconds)
+{
+    QEventLoop loop;
+    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QApplication app(argc, argv);
+    QApplication::setApplicationName("Kestrova");
+    QApplication::setOrganizationName("Kestrova");
+    QApplication::setApplicationVersion(KESTROVA_VERSION);
+
+    kestrova::SingleInstance instance("kestrova-" + qEnvironmentVariable("USER", "user"));
+    if (instance.anotherIsRunning())
+        return 0;
+    if (instance.anotherIsSilent()) {
+        QMessageBox::warning(nullptr, "Kestrova", "A previous instance of Kestrova is currently running.");
+        return 0;
+    }
+
+    kestrova::SettingsStore& store = kestrova::SettingsStore::user();
+    const bool showDisclaimer = store.get("Settings", "Disclaimer Show", "True") != "False";
+
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    kestrova::frmSplash splash;
+    splash.show();
+    app.processEvents();
+    kestrova::frmMain frame(store);
+    waitShowing(kSplashMilliseconds);
+    splash.close();
+    frame.show();
+    QApplication::beep();
+    QObject::connect(&instance, &kestrova::SingleInstance::raiseRequested, &frame, [&frame] {
+        frame.showNormal();
+        frame.raise();
+        frame.activateWindow();
+    });
+
+    if (showDisclaimer) {
+        kestrova::frmReadDisclaimer disclaimer(frame.userInterface(), store, showDisclaimer, &frame);
+        QApplication::restoreOverrideCursor();
+        if (disclaimer.exec() != QDialog::Accepted || !disclaimer.agreed())
+            return 0; // disagreeing ends the program at once, saving nothing
+    } else {
+        QApplication::restoreOverrideCursor();
+    }
+    return app.exec();
+}

@@ -1,0 +1,56 @@
+#include "calc/open_file.h"
+
+#include "calc/json_result.h"
+#include "calc/tool_calls.h"
+#include "calc/tool_report.h"
+#include "frame/project_file.h"
+#include "frame/scripted_user_interface.h"
+#include "tools/pressure_drop/pressure_drop_model.h"
+
+#include <QFileInfo>
+
+namespace kestrova::calc {
+
+namespace {
+
+std::string refusal(const std::string& message, bool& ok)
+{
+    ok = false;
+    return JsonObject().boolean("ok", false).text("error", message).str();
+}
+
+} // namespace
+
+std::string openProjectFile(const std::string& path, bool& ok)
+{
+    const QString file = QString::fromStdString(path);
+    const QFileInfo info(file);
+    if (!info.exists() || !info.isFile())
+        return refusal("File does not exist.", ok);
+    QByteArray bytes;
+    if (!readWholeFile(file, bytes))
+        return refusal("The file could not be read.", ok);
+    const std::int16_t kind = fileKindOf(bytes);
+    if (kind < 1 || kind > 3)
+        return refusal("This is not a Kestrova data file.", ok);
+    if (kind != static_cast<std::int16_t>(FileKind::PressureDrop))
+        return refusal(kind == 1 ? "Orifice plate files cannot be opened by kestrova-calc in this version."
+                                 : "Pump network files cannot be opened by kestrova-calc in this version.",
+                       ok);
+
+    resetSharedState();
+    ScriptedUserInterface ui;
+    PressureDropModel tool(ui);
+    tool.Form_Load();
+    tool.setStrFileName(info.absoluteFilePath().toStdString());
+    if (!tool.OpenSaveData("Open"))
+        return refusal(ui.messages.empty() ? "The file could not be opened." : ui.messages.back().text, ok);
+    tool.Form_Activate();
+
+    ok = true;
+    JsonObject result;
+    reportPressureDrop(tool, ui, result);
+    return JsonObject().boolean("ok", true).integer("kind", kind).raw("result", result.str()).str();
+}
+
+} // namespace kestrova::calc

@@ -1,0 +1,130 @@
+#include "frame/auxiliary_dialogs.h"
+
+#include "frame/settings_store.h"
+#include "frame/user_interface.h"
+
+#include <QCheckBox>
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPainter>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace kestrova {
+
+namespace {
+
+QPixmap splashPicture()
+{
+    QPixmap picture(480, 280);
+    picture.fill(QColor(0x1f, 0x3b, 0x5c));
+    QPainter p(&picture);
+    p.setPen(QColor(0x9f, 0xc5, 0xe8));
+    for (int i = 0; i < 6; ++i)
+        p.drawLine(0, 200 + 8 * i, 480, 170 + 14 * i); // a hint of flow lines
+    p.setPen(Qt::white);
+    QFont title = p.font();
+    title.setPointSize(30);
+    title.setBold(true);
+    p.setFont(title);
+    p.drawText(QRect(0, 50, 480, 60), Qt::AlignCenter, QCoreApplication::applicationName());
+    QFont body = p.font();
+    body.setPointSize(11);
+    body.setBold(false);
+    p.setFont(body);
+    p.drawText(QRect(0, 110, 480, 24), Qt::AlignCenter, "Hydraulic Calculation Workbench");
+    p.drawText(QRect(0, 136, 480, 24), Qt::AlignCenter, "Version " + QCoreApplication::applicationVersion());
+    return picture;
+}
+
+} // namespace
+
+frmSplash::frmSplash() : QSplashScreen(splashPicture())
+{
+    setObjectName("frmSplash");
+}
+
+frmDisclaimer::frmDisclaimer(UserInterface& ui, QWidget* parent) : QDialog(parent)
+{
+    setObjectName("frmDisclaimer");
+    setWindowTitle("Disclaimer");
+    ui.beep();
+    txtText_ = new QPlainTextEdit(this);
+    txtText_->setObjectName("txtText");
+    txtText_->setReadOnly(true);
+    auto* ok = new QPushButton("OK", this);
+    ok->setObjectName("cmdOK");
+    ok->setDefault(true);
+    connect(ok, &QPushButton::clicked, this, &QDialog::accept);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(txtText_);
+    layout->addWidget(ok, 0, Qt::AlignRight);
+    resize(560, 420);
+
+    QFile file(QDir(QCoreApplication::applicationDirPath()).filePath("disclaimer.txt"));
+    if (file.open(QIODevice::ReadOnly))
+        txtText_->setPlainText(QString::fromUtf8(file.readAll()));
+    else
+        ui.ask("Error:  Kestrova", "The file DISCLAIMER.TXT could not be located.\nPlease re-install Kestrova.",
+               MessageIcon::Stop, MessageButtons::Ok, MessageAnswer::Ok);
+}
+
+frmReadDisclaimer::frmReadDisclaimer(UserInterface& ui, SettingsStore& store, bool showFlag, QWidget* parent)
+    : QDialog(parent), ui_(ui), store_(store), showFlag_(showFlag)
+{
+    setObjectName("frmReadDisclaimer");
+    setWindowTitle("Kestrova");
+    auto* text = new QLabel("Kestrova is an engineering aid. Its results must be checked by a qualified engineer "
+                            "before they are used.\n\nPlease read the disclaimer. You must agree to it in order "
+                            "to use Kestrova.",
+                            this);
+    text->setWordWrap(true);
+    chkDontShow_ = new QCheckBox("&Don't show this message again", this);
+    chkDontShow_->setObjectName("chkDontShow");
+    auto* read = new QPushButton("&Read Disclaimer...", this);
+    read->setObjectName("cmdRead");
+    auto* agree = new QPushButton("I &Agree", this);
+    agree->setObjectName("cmdAgree");
+    agree->setDefault(true);
+    auto* disagree = new QPushButton("I Dis&agree", this);
+    disagree->setObjectName("cmdDisagree");
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(read);
+    buttons->addStretch();
+    buttons->addWidget(agree);
+    buttons->addWidget(disagree);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(text);
+    layout->addWidget(chkDontShow_);
+    layout->addLayout(buttons);
+    resize(440, 200);
+
+    connect(chkDontShow_, &QCheckBox::toggled, this, [this] {
+        if (loaded_)
+            showFlag_ = !showFlag_;
+    });
+    connect(read, &QPushButton::clicked, this, [this] {
+        frmDisclaimer disclaimer(ui_, this);
+        disclaimer.exec();
+    });
+    connect(agree, &QPushButton::clicked, this, &frmReadDisclaimer::cmdAgree_Click);
+    connect(disagree, &QPushButton::clicked, this, &QDialog::reject);
+
+    ui_.setStatusText("You must agree in order to use Kestrova");
+    chkDontShow_->setChecked(!showFlag_);
+    loaded_ = true;
+}
+
+void frmReadDisclaimer::cmdAgree_Click()
+{
+    agreed_ = true;
+    store_.save("Settings", "Disclaimer Show", showFlag_ ? "True" : "False");
+    store_.sync();
+    accept();
+}
+
+} // namespace kestrova

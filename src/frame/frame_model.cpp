@@ -1,0 +1,175 @@
+#include "frame/frame_model.h"
+
+#include "frame/document_tool.h"
+#include "frame/global_units.h"
+#include "frame/project_file.h"
+#include "frame/settings_store.h"
+#include "frame/user_interface.h"
+#include "numeric/field_text.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+#include <QUuid>
+
+namespace kestrova {
+
+namespace {
+
+std::string fileTitle(const std::string& path)
+{
+    return QFileInfo(QString::fromStdString(path)).fileName().toStdString();
+}
+
+} // namespace
+
+bool isValidDataBaseFile(const std::string& path)
+{
+    const QFileInfo info(QString::fromStdString(path));
+    if (!info.isFile() || !info.isReadable())
+        return false;
+    bool valid = false;
+    const QString connection = "file-test-" + QUuid::createUuid().toString();
+    {
+        QSqlDatabase db = QSqlDatabase::addDatabase("QSQLITE", connection);
+        db.setDatabaseName(info.absoluteFilePath());
+        db.setConnectOptions("QSQLITE_OPEN_READONLY");
+        if (db.open()) {
+            QSqlQuery query(db);
+            valid = query.exec("SELECT count(*) FROM sqlite_master") && query.next();
+            db.close();
+        }
+    }
+    QSqlDatabase::removeDatabase(connection);
+    return valid;
+}
+
+std::string defaultDataBaseLocation()
+{
+    return QDir(QCoreApplication::applicationDirPath()).filePath("compounds.sqlite").toStdString();
+}
+
+void FrameModel::MDIForm_Load()
+{
+    globalUnits().load(store_);
+    toolbar = {{"Open", true}, {"Save", false}, {"Print", false}, {"Cut", true}, {"Copy", true}, {"Paste", true}};
+    recentFiles.load(store_);
+}
+
+void FrameModel::MDIForm_Activate()
+{
+    dataBaseValid_ = isValidDataBaseFile(dataBaseLocation());
+    if (!firstActivationDone_) {
+        ui_.setBusyPointer(false);
+        firstActivationDone_ = true;
+    }
+}
+
+void FrameModel::MDIForm_Unload(const FramePlacement& placement, bool minimised)
+{
+    if (minimised)
+        return;
+    store_.save("Settings", "MainLeft", std::to_string(placement.left));
+    store_.save("Settings", "MainTop", std::to_string(placement.top));
+    store_.save("Settings", "MainWidth", std::to_string(placement.width));
+    store_.save("Settings", "MainHeight", std::to_string(placement.height));
+    store_.sync();
+}
+
+FramePlacement FrameModel::placement() const
+{
+    const FramePlacement defaults;
+    const auto read = [this](const char* key, double fallback) {
+        const std::string text = store_.get("Settings", key, "");
+        return text.empty() ? fallback : static_cast<double>(Single(parseFieldNumber(text)));
+    };
+    return {read("MainLeft", defaults.left), read("MainTop", defaults.top), read("MainWidth", defaults.width),
+            read("MainHeight", defaults.height)};
+}
+
+bool FrameModel::disclaimerShow() const
+{
+    const std::string flag = store_.get("Settings", "Disclaimer Show", "True");
+    return flag != "False" && flag != "false" && flag != "0";
+}
+
+std::string FrameModel::dataBaseLocation() const
+{
+    return store_.get("Settings", "DataBaseLocation", defaultDataBaseLocation());
+}
+
+bool FrameModel::menuEnabled(const std::string& menuName) const
+{
+    static const std::map<std::string, std::string> copies{
+        {"mnuFileOpen", "Open"}, {"mnuFileSave", "Save"}, {"mnuFilePrint", "Print"},
+        {"mnuEditCut", "Cut"},   {"mnuEditCopy", "Copy"}, {"mnuEditPaste", "Paste"}};
+    const auto copy = copies.find(menuName);
+    if (copy == copies.end())
+        return true;
+    const auto state = toolbar.find(copy->second);
+    return state != toolbar.end() && state->second;
+}
+
+void FrameModel::openFile(const std::string& title, const std::string& path, const ToolOpener& open)
+{
+    const QFileInfo info(QString::fromStdString(path));
+    if (path.empty() || !info.exists() || !info.isFile()) {
+        ui_.ask("Open", "File does not exist.", MessageIcon::Stop, MessageButtons::Ok, MessageAnswer::Ok);
+        return;
+    }
+    QByteArray bytes;
+    const std::int16_t kind = readWholeFile(info.absoluteFilePath(), bytes) ? fileKindOf(bytes) : 0;
+    if (kind < 1 || kind > 3) {
+        ui_.ask("Kestrova Open File", "This is not a Kestrova data file.", MessageIcon::Warning, MessageButtons::Ok,
+                MessageAnswer::Ok);
+        return;
+    }
+    recentFiles.add(title, path, store_);
+    DocumentTool* tool = open(kind);
+    if (!tool)
+        return;
+    tool->setStrFileName(path);
+    tool->OpenSaveData("Open");
+}
+
+void FrameModel::mnuFileMRU_Click(int place, const ToolOpener& open)
+{
+    if (place < 1 || place > static_cast<int>(recentFiles.entries().size()))
+        return;
+    const RecentFile file = recentFiles.entries()[static_cast<size_t>(place - 1)];
+    openFile(file.title, file.path, open);
+}
+
+bool FrameModel::mnuFileSave_Click(DocumentTool* active, const std::function<std::string(const std::string&)>& chooseFile)
+{
+    if (!active)
+        return false;
+    if (active->strFileName().empty())
+        return mnuFileSaveAs_Click(active, chooseFile);
+    return active->OpenSaveData("Save");
+}
+
+bool FrameModel::mnuFileSaveAs_Click(DocumentTool* active, const std::function<std::string(const std::string&)>& chooseFile)
+{
+    if (!active)
+        return false;
+    const std::string path = chooseFile(active->strFileName());
+    if (path.empty())
+        return false;
+    active->setStrFileName(path);
+    if (!active->OpenSaveData("Save As"))
+        return false;
+    recentFiles.add(fileTitle(path), path, store_);
+    return true;
+}
+
+void FrameModel::mnuFilePrintDataSheet_Click(DocumentTool* active)
+{
+    ui_.setStatusText("Print Data Sheet");
+    if (active)
+        active->PrintDataSheet();
+}
+
+} // namespace kestrova

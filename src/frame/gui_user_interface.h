@@ -1,0 +1,46 @@
+#pragma once
+// The user interface of the desktop program: real message boxes, the frame's
+// status panel and toolbar, and the dialog tools shown over the frame.
+
+#include "frame/user_interface.h"
+
+#include <functional>
+
+class QWidget;
+
+namespace kestrova {
+
+class frmMain;
+
+class GuiUserInterface : public UserInterface {
+public:
+    explicit GuiUserInterface(frmMain& frame) : frame_(frame) {}
+
+    MessageAnswer ask(const std::string& title, const std::string& text, MessageIcon icon, MessageButtons buttons,
+                      MessageAnswer defaultAnswer) override;
+    void beep() override;
+    void setStatusText(const std::string& text) override;
+    void setBusyPointer(bool busy) override;
+    void setToolbarButtonEnabled(const std::string& key, bool enabled) override;
+    bool runSaveAs() override;
+
+    // The dialog tools of the piping, flow and property subsystems are not
+    // part of this version: each tells the user so and answers as a cancel.
+    Single SelectPipeID(const std::string& selector) override;
+    Single SelectRoughness() override;
+    void GetKValue() override;
+    Single GetZValue(Single temperature, Single pressure) override;
+    Single GetHeatCapRatioValue(Single temperature, Single pressure) override;
+    Single GetFlowrateConversion(int fluid) override;
+    Single GetGasDensity(Single temperature, Single pressure) override;
+    void GetPhysicalProperties(FluidKind fluid, Single temperature) override;
+    void showRegimeMap(const std::string& orientation) override;
+
+    void toolNotAvailable(const std::string& tool);
+
+private:
+    frmMain& frame_;
+    bool busy_ = false;
+};
+
+} // namespace kestrova
