@@ -83,14 +83,14 @@ frmReadDisclaimer::frmReadDisclaimer(UserInterface& ui, SettingsStore& store, bo
                             "to use Kestrova.",
                             this);
     text->setWordWrap(true);
-    chkDontShow_ = new QCheckBox("&Don't show this message again", this);
+    chkDontShow_ = new QCheckBox("Don't &show this message again", this);
     chkDontShow_->setObjectName("chkDontShow");
     auto* read = new QPushButton("&Read Disclaimer...", this);
     read->setObjectName("cmdRead");
     auto* agree = new QPushButton("I &Agree", this);
     agree->setObjectName("cmdAgree");
     agree->setDefault(true);
-    auto* disagree = new QPushButton("I Dis&agree", this);
+    auto* disagree = new QPushButton("I &Disagree", this);
     disagree->setObjectName("cmdDisagree");
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(read);

@@ -22,6 +22,8 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QProcess>
+#include <QScreen>
+#include <QGuiApplication>
 #include <QStandardPaths>
 #include <QStatusBar>
 #include <QStyle>
@@ -327,7 +329,17 @@ void frmMain::buildStatusBar()
 
 void frmMain::placeFromSettings()
 {
-    // The placement keys hold twips, fifteen to a pixel at 96 dots per inch.
+    // The placement keys hold twips, fifteen to a pixel. Until a placement has
+    // been saved, the frame takes most of the screen rather than the small
+    // default window of the keys.
+    if (store_.get("Settings", "MainWidth", "").empty()) {
+        if (QScreen* screen = QGuiApplication::primaryScreen()) {
+            const QRect free = screen->availableGeometry();
+            const QSize size(free.width() * 9 / 10, free.height() * 9 / 10);
+            setGeometry(QRect(free.center() - QPoint(size.width() / 2, size.height() / 2), size));
+        }
+        return;
+    }
     const FramePlacement p = model_.placement();
     const auto px = [](double twips) { return static_cast<int>(twips / 15.0); };
     setGeometry(px(p.left), px(p.top), std::max(px(p.width), 480), std::max(px(p.height), 360));

@@ -24,6 +24,7 @@ frmUnitOptions::frmUnitOptions(UserInterface& ui, SettingsStore& store, QWidget*
     for (const auto& combo : UnitOptionsModel::combos()) {
         auto* box = new QComboBox(this);
         box->setObjectName(combo.name);
+        box->setSizeAdjustPolicy(QComboBox::AdjustToContents);
         for (const std::string& item : UnitOptionsModel::comboItems(combo.name))
             box->addItem(QString::fromStdString(item));
         const size_t at = combos_.size();

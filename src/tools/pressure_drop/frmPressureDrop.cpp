@@ -410,8 +410,9 @@ void frmPressureDrop::render()
         parentWidget()->setWindowTitle(windowTitle());
     tabs_->setCurrentIndex(m.tab);
     const auto showText = [](QLineEdit* edit, const TextControl& control) {
+        // A field that the user is typing in keeps what is typed until it is left.
         const QString text = QString::fromStdString(control.text);
-        if (edit->text() != text)
+        if (edit->text() != text && !(edit->hasFocus() && edit->isModified()))
             edit->setText(text);
         edit->setEnabled(control.enabled);
         QPalette p = edit->palette();
@@ -467,8 +468,19 @@ void frmPressureDrop::render()
     options_[QString("optCrossSection(%1)").arg(m.crossSectionGas)]->setChecked(true);
     options_[QString("optCalcType(%1)").arg(m.calcType)]->setChecked(true);
     options_[QString("optOrientation(%1)").arg(m.orientation)]->setChecked(true);
+    // Only the shown tab's input fields are in the tab order.
+    const auto tabOrder = [](QLineEdit* edit, bool tabStop) {
+        if (!edit->isReadOnly())
+            edit->setFocusPolicy(tabStop ? Qt::StrongFocus : Qt::ClickFocus);
+    };
     for (auto& [index, edit] : txtData_)
-        edit->setFocusPolicy(edit->isReadOnly() ? Qt::NoFocus : Qt::StrongFocus);
+        tabOrder(edit, m.txtData[static_cast<size_t>(index)].tabStop);
+    for (int i : {4, 5, 6})
+        tabOrder(txtDisplay_[i], m.txtDisplay[static_cast<size_t>(i)].tabStop);
+    for (int t = 0; t < 3; ++t) {
+        tabOrder(txtProject_[t], m.txtProject[static_cast<size_t>(t)].tabStop);
+        tabOrder(txtTag_[t], m.txtTag[static_cast<size_t>(t)].tabStop);
+    }
     if (!model_.focusRequest.empty()) {
         const int tab = indexOf(QString::fromStdString(model_.focusRequest));
         model_.focusRequest.clear();

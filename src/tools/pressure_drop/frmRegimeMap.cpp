@@ -9,6 +9,7 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <cmath>
 #include <map>
 
@@ -78,23 +79,37 @@ void RegimeMapPicture::paintEvent(QPaintEvent*)
         shadeRegions(plot);
     p.drawImage(plot.topLeft(), regions_);
 
-    // Region names at the middle of each region's pixels.
-    std::map<QRgb, std::pair<QPointF, int>> sums;
-    for (int py = 0; py < regions_.height(); py += 3)
-        for (int px = 0; px < regions_.width(); px += 3) {
-            auto& [sum, count] = sums[regions_.pixel(px, py)];
-            sum += QPointF(px, py);
-            ++count;
+    // Each region's name stands where the region is widest in both directions.
+    const auto reach = [this](int x, int y, int dx, int dy) {
+        const QRgb shade = regions_.pixel(x, y);
+        int steps = 0;
+        while (steps < 80 && regions_.valid(x + dx, y + dy) && regions_.pixel(x + dx, y + dy) == shade) {
+            x += dx;
+            y += dy;
+            ++steps;
+        }
+        return steps;
+    };
+    std::map<QRgb, std::pair<int, QPoint>> best;
+    for (int py = 0; py < regions_.height(); py += 4)
+        for (int px = 0; px < regions_.width(); px += 4) {
+            const int room = std::min({reach(px, py, 1, 0) + reach(px, py, -1, 0), 4 * reach(px, py, 0, 1),
+                                       4 * reach(px, py, 0, -1)});
+            auto& [score, at] = best[regions_.pixel(px, py)];
+            if (room > score) {
+                score = room;
+                at = QPoint(px, py);
+            }
         }
     p.setPen(Qt::black);
     QFont bold = p.font();
     bold.setBold(true);
     p.setFont(bold);
     for (const QString& regime : regimesOfMap(horizontal_)) {
-        const auto found = sums.find(regimeShade(regime).rgb());
-        if (found == sums.end())
+        const auto found = best.find(regimeShade(regime).rgb());
+        if (found == best.end())
             continue;
-        const QPointF centre = plot.topLeft() + found->second.first / found->second.second;
+        const QPointF centre = plot.topLeft() + found->second.second;
         p.drawText(QRectF(centre.x() - 50, centre.y() - 10, 100, 20), Qt::AlignCenter, regime);
     }
     p.setFont(font());
@@ -145,8 +160,9 @@ void RegimeMapLegend::paintEvent(QPaintEvent*)
         p.drawText(QRect(46, y, width() - 50, 16), Qt::AlignLeft | Qt::AlignVCenter, regime);
         y += 24;
     }
-    p.drawText(QRect(10, y + 6, width() - 20, 60), Qt::TextWordWrap,
-               QString::fromUtf8("\u03BB = \u221A((\u03C1l/62.3)(\u03C1g/0.075))\n\u03C8 = (73/\u03C3)(\u03BCl(62.3/\u03C1l)\u00B2)^\u2153"));
+    p.drawText(QRect(10, y + 6, width() - 20, height() - y - 12), Qt::TextWordWrap,
+               QString::fromUtf8("\u03BB = \u221A((\u03C1l/62.3)(\u03C1g/0.075))\n\u03C8 = (73/\u03C3)(\u03BCl(62.3/\u03C1l)\u00B2)^\u2153\n"
+                                 "\u03C1 lb/ft\u00B3, \u03BC cP, \u03C3 dyn/cm"));
 }
 
 frmRegimeMap::frmRegimeMap(bool horizontal, UserInterface& ui, QWidget* parent) : QWidget(parent), ui_(ui)

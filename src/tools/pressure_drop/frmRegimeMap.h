@@ -34,7 +34,7 @@ private:
 class RegimeMapLegend : public QWidget {
 public:
     explicit RegimeMapLegend(bool horizontal, QWidget* parent = nullptr);
-    QSize sizeHint() const override { return {170, 260}; }
+    QSize sizeHint() const override { return {210, 340}; }
 
 protected:
     void paintEvent(QPaintEvent*) override;
