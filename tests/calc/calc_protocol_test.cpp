@@ -1,5 +1,6 @@
 #include "calc/calc_protocol.h"
 #include "calc/function_calls.h"
+#include "numeric/display_mask.h"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
@@ -141,4 +142,60 @@ TEST(CalcProtocol, FormatParseAndEveryConversionByName)
         EXPECT_TRUE(reply["result"]["value"].is_number()) << name;
     }
     EXPECT_EQ(call("TemperatureToUnit", {{"value", 32}, {"index", 1}})["result"]["value"], 0);
+}
+
+TEST(CalcToolCalls, PressureDropRunReportsRecordTextsAndFrames)
+{
+    const json args = {{"tab", 0},
+                       {"crossSection", 0},
+                       {"record", {{"LiquidFlow", 36000}, {"LiquidDensity", 62.4}, {"LiquidViscosity", 0.001},
+                                   {"Diameter", 6.065}, {"Roughness", 0.00015}, {"PipeLength", 100}}},
+                       {"texts", {{"txtDisplay(12)", "0.5"}}},
+                       {"units", {{"cboUnits(10)", 5}}}};
+    const json result = call("PressureDrop.CalculateResults", args)["result"];
+    EXPECT_EQ(result["failed"], false);
+    EXPECT_NEAR(result["record"]["Velocity"].get<double>(), 0.79878, 1e-5);
+    EXPECT_EQ(result["texts"]["txtData(9)"], "0.799");
+    EXPECT_EQ(result["texts"]["txtDisplay(2)"], "Turbulent");
+    // The drop is shown in kPa: the unit list of field 10 was set to index 5.
+    EXPECT_EQ(result["texts"]["txtData(10)"],
+              kestrova::formatMask(result["record"]["PressureDrop"].get<double>() * 6.894733261, "##,##0.00"));
+    EXPECT_EQ(result["texts"].size(), 46u + 21u);
+    EXPECT_EQ(result["record"].size(), 31u);
+    EXPECT_EQ(result["frames"]["Frame1(5)"]["caption"], "Calculated Results");
+    EXPECT_EQ(result["messages"], json::array());
+}
+
+TEST(CalcToolCalls, PressureDropTextsAreCommittedInTheirUnits)
+{
+    // 100 m typed with the length list at m is stored as 328.08 ft.
+    const json args = {{"units", {{"cboUnits(8)", 4}}}, {"texts", {{"txtData(8)", "100"}}}};
+    const json result = call("PressureDrop.CalculateResults", args)["result"];
+    EXPECT_NEAR(result["record"]["PipeLength"].get<double>(), 328.084, 1e-3);
+    EXPECT_EQ(result["failed"], true); // nothing else was given: the run fails quietly
+    EXPECT_EQ(result["texts"]["txtData(10)"], "0.00");
+}
+
+TEST(CalcToolCalls, AChokedGasLineBeepsAndTurnsTheFrameRed)
+{
+    const json args = {{"tab", 1},
+                       {"crossSection", 3},
+                       {"calcType", 1},
+                       {"record", {{"GasFlow", 30000}, {"InletPressure", 100}, {"InletTemperature", 100},
+                                   {"VaporViscosity", 0.000018}, {"Diameter", 4.026}, {"Roughness", 0.00015},
+                                   {"PipeLength", 20000}}},
+                       {"texts", {{"txtDisplay(4)", "28.97"}, {"txtDisplay(5)", "1"}, {"txtDisplay(6)", "1.4"}}}};
+    const json result = call("PressureDrop.CalculateResults", args)["result"];
+    EXPECT_EQ(result["frames"]["Frame1(5)"]["caption"], "Calculated Results, Flow Type = Choked Flow at Outlet");
+    EXPECT_EQ(result["frames"]["Frame1(5)"]["red"], true);
+    EXPECT_GE(result["beeps"].get<int>(), 1);
+    EXPECT_EQ(result["record"]["ExitTemperature"], result["record"]["InletTemperature"]);
+}
+
+TEST(CalcToolCalls, UnknownControlsAndFieldsAreErrors)
+{
+    EXPECT_EQ(call("PressureDrop.CalculateResults", {{"texts", {{"txtData(99)", "1"}}}})["ok"], false);
+    EXPECT_EQ(call("PressureDrop.CalculateResults", {{"record", {{"Nonsense", 1}}}})["ok"], false);
+    EXPECT_EQ(call("PressureDrop.CalculateResults", {{"units", {{"cboUnits(3)", "ft"}}}})["ok"], false);
+    EXPECT_EQ(call("PressureDrop.CalculateResults", {{"record", {{"LiquidFlow", 1e39}}}})["fault"], "numeric");
 }

@@ -1,0 +1,32 @@
+#!/usr/bin/env bash
+# kestrova-calc --open on the example files and on files that must be refused,
+# and the example files written again by the program, byte for byte.
+set -u
+calc=$1 make_examples=$2 examples=$3
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+failures=0
+fail() { echo "FAIL: $*"; failures=$((failures + 1)); }
+
+"$make_examples" "$work" > /dev/null || fail "the examples could not be written"
+for f in "$examples"/*.ksv; do
+  cmp -s "$f" "$work/$(basename "$f")" || fail "$(basename "$f") differs from the program's own save"
+  out=$("$calc" --open "$f"); status=$?
+  [ "$status" -eq 0 ] || fail "--open $(basename "$f") exited $status"
+  case "$out" in *'"ok": true, "kind": 2'*'"failed": false'*) ;; *) fail "--open $(basename "$f"): $out" ;; esac
+done
+
+refused() { # file, expected message
+  out=$("$calc" --open "$1"); status=$?
+  [ "$status" -eq 1 ] || fail "--open $1 exited $status"
+  case "$out" in *"\"ok\": false"*"$2"*) ;; *) fail "--open $1: $out" ;; esac
+}
+refused "$work/missing.ksv" "File does not exist."
+: > "$work/empty.ksv"; refused "$work/empty.ksv" "This is not a Kestrova data file."
+printf '\004\000' > "$work/four.ksv"; refused "$work/four.ksv" "This is not a Kestrova data file."
+printf '\001\000rest' > "$work/orifice.ksv"; refused "$work/orifice.ksv" "Orifice plate files"
+head -c 300 "$examples/liquid-water-6in.ksv" > "$work/short.ksv"; refused "$work/short.ksv" "damaged or incomplete"
+refused "$work" "File does not exist."
+
+[ "$failures" -eq 0 ] && echo "all files answered as expected"
+exit "$failures"

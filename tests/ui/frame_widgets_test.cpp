@@ -1,0 +1,143 @@
+// The main frame and the pressure drop window under the offscreen platform:
+// controls by their program names, typing into fields, unit lists, options,
+// menu enabling and saving through the frame.
+
+#include "frame/frmMain.h"
+#include "frame/settings_store.h"
+#include "tools/pressure_drop/pressure_drop_model.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QFileInfo>
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QRadioButton>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using namespace kestrova;
+
+class FrameWidgetsTest : public QObject {
+    Q_OBJECT
+
+private:
+    template <typename T>
+    T* control(QWidget* form, const QString& name)
+    {
+        T* found = form->findChild<T*>(name);
+        if (!found)
+            qFatal("no control %s", qPrintable(name));
+        return found;
+    }
+
+    void type(QLineEdit* field, const QString& text)
+    {
+        field->setFocus();
+        field->selectAll();
+        QTest::keyClicks(field, text);
+        field->clearFocus(); // leaving the field commits it
+    }
+
+private slots:
+    void initTestCase() { QApplication::setApplicationName("Kestrova"); }
+
+    void pressureDropToolThroughTheFrame()
+    {
+        QTemporaryDir dir;
+        SettingsStore store(dir.filePath("Kestrova.ini"));
+        frmMain frame(store);
+        frame.show();
+        frame.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&frame));
+        QVERIFY(!frame.action("mnuFileSave")->isEnabled());
+        QVERIFY(!frame.toolbarButton("Save")->isEnabled());
+        QVERIFY(frame.action("mnuFileOpen")->isEnabled());
+        QCOMPARE(frame.toolbarButton("CpCv")->toolTip(), QString("Heat Capcity Ratio"));
+
+        frame.action("mnuToolsPressureDrop")->trigger();
+        PressureDropModel* model = frame.mnuToolsPressureDrop_Click();
+        QVERIFY(model);
+        QWidget* form = frame.mdiArea()->activeSubWindow()->widget();
+        QCOMPARE(form->objectName(), QString("frmPressureDrop"));
+        QVERIFY(frame.toolbarButton("Print")->isEnabled());
+
+        type(control<QLineEdit>(form, "txtData(0)"), "36000");
+        type(control<QLineEdit>(form, "txtData(1)"), "62.4");
+        type(control<QLineEdit>(form, "txtData(2)"), "1");
+        type(control<QLineEdit>(form, "txtData(5)"), "6.065");
+        type(control<QLineEdit>(form, "txtData(6)"), "0.00015");
+        QCOMPARE(model->record.LiquidFlow.value(), 36000.0f);
+        QCOMPARE(control<QLineEdit>(form, "txtData(0)")->text(), QString("36,000.00"));
+        QCOMPARE(control<QLineEdit>(form, "txtData(9)")->text(), QString("0.799"));
+        QCOMPARE(control<QLineEdit>(form, "txtDisplay(2)")->text(), QString("Turbulent"));
+        QVERIFY(frame.action("mnuFileSave")->isEnabled()); // typing made the tool dirty
+
+        // The key filter lets one point and one minus through, and no letters.
+        QLineEdit* length = control<QLineEdit>(form, "txtData(8)");
+        length->setFocus();
+        length->selectAll();
+        QTest::keyClicks(length, "-1.2.3x");
+        QCOMPARE(length->text(), QString("-1.23"));
+        length->clearFocus();
+
+        // A unit list rewrites its field only.
+        QComboBox* flowUnits = control<QComboBox>(form, "cboUnits(0)");
+        const QString drop = control<QLineEdit>(form, "txtData(10)")->text();
+        flowUnits->setCurrentIndex(2);
+        emit flowUnits->activated(2);
+        QCOMPARE(control<QLineEdit>(form, "txtData(0)")->text(), QString("10.0000"));
+        QCOMPARE(control<QLineEdit>(form, "txtData(10)")->text(), drop);
+
+        // A rectangular section enables the conduit sides and greys the diameter.
+        control<QRadioButton>(form, "optCrossSection(1)")->click();
+        QVERIFY(control<QLineEdit>(form, "txtData(3)")->isEnabled());
+        QVERIFY(!control<QLineEdit>(form, "txtData(5)")->isEnabled());
+        control<QRadioButton>(form, "optCrossSection(0)")->click();
+
+        // Save through the frame with a file name already given.
+        const QString path = dir.filePath("case.ksv");
+        model->setStrFileName(path.toStdString());
+        frame.action("mnuFileSave")->trigger();
+        QVERIFY(QFileInfo::exists(path));
+        QVERIFY(!model->DirtyFlag);
+        QVERIFY(!frame.action("mnuFileSave")->isEnabled());
+        QCOMPARE(frame.mdiArea()->activeSubWindow()->windowTitle(), QString("Pressure Drop: case.ksv"));
+
+        // The regime map opens beside the tool.
+        frame.action("mnuView2PhaseHorizontal")->trigger();
+        QCOMPARE(frame.mdiArea()->subWindowList().size(), 2);
+        QVERIFY(frame.mdiArea()->activeSubWindow()->widget()->findChild<QWidget*>("Image1"));
+        QVERIFY(frame.close());
+    }
+
+    void gasResultsFrameTurnsRedWhenChoked()
+    {
+        QTemporaryDir dir;
+        SettingsStore store(dir.filePath("Kestrova.ini"));
+        frmMain frame(store);
+        frame.show();
+        frame.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&frame));
+        PressureDropModel* model = frame.mnuToolsPressureDrop_Click();
+        QWidget* form = frame.mdiArea()->activeSubWindow()->widget();
+        model->SSTab1_Click(1);
+        type(control<QLineEdit>(form, "txtData(11)"), "30000");
+        type(control<QLineEdit>(form, "txtData(12)"), "100");
+        type(control<QLineEdit>(form, "txtData(14)"), "0.018");
+        type(control<QLineEdit>(form, "txtData(15)"), "4.026");
+        type(control<QLineEdit>(form, "txtData(17)"), "20000");
+        type(control<QLineEdit>(form, "txtDisplay(4)"), "28.97");
+        type(control<QLineEdit>(form, "txtDisplay(5)"), "1");
+        type(control<QLineEdit>(form, "txtDisplay(6)"), "1.4");
+        QGroupBox* results = control<QGroupBox>(form, "Frame1(5)");
+        QCOMPARE(results->title(), QString("Calculated Results, Flow Type = Choked Flow at Outlet"));
+        QVERIFY(results->font().bold());
+        model->DirtyFlag = false; // closing asks nothing
+        QVERIFY(frame.close());
+    }
+};
+
+QTEST_MAIN(FrameWidgetsTest)
+#include "frame_widgets_test.moc"
