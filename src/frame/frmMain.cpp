@@ -66,7 +66,12 @@ frmMain::frmMain(SettingsStore& store, QWidget* parent)
     showRecentFiles();
 }
 
-frmMain::~frmMain() = default;
+frmMain::~frmMain()
+{
+    // The tool windows go before the models they show.
+    for (QMdiSubWindow* window : mdi_->subWindowList())
+        delete window;
+}
 
 QAction* frmMain::addAction(const QString& name, const QString& caption, void (frmMain::*slot)())
 {
