@@ -2,12 +2,19 @@
 
 #include "calc/tool_report.h"
 #include "frame/global_units.h"
+#include "numeric/display_mask.h"
 #include "numeric/numeric_fault.h"
 #include "frame/scripted_user_interface.h"
 #include "tools/piping/minor_loss_store.h"
 #include "tools/piping/pipe_selection.h"
 #include "tools/pressure_drop/pressure_drop_model.h"
 #include "tools/properties/phys_props.h"
+#include "tools/flow/flow_conversions_model.h"
+#include "tools/flow/gas_density_model.h"
+#include "tools/piping/minor_losses_model.h"
+#include "tools/piping/reducer_model.h"
+#include "tools/properties/compress_factor_model.h"
+#include "tools/properties/heat_cap_ratio_model.h"
 
 #include <charconv>
 #include <vector>
@@ -122,6 +129,129 @@ void pressureDropCalculateResults(const RequestArgs& a, JsonObject& result)
     reportPressureDrop(tool, ui, result);
 }
 
+std::vector<std::string> textList(const RequestArgs& a, const std::string& name, size_t count)
+{
+    const json& list = a.raw().contains(name) ? a.raw()[name] : json::array();
+    if (!list.is_array() || list.size() > count)
+        throw RequestError("argument '" + name + "' must be an array of at most " + std::to_string(count) + " texts");
+    std::vector<std::string> texts(count);
+    for (size_t i = 0; i < list.size(); ++i)
+        texts[i] = textValue(list[i], name + "[" + std::to_string(i) + "]");
+    return texts;
+}
+
+void flowConversionsConvert(const RequestArgs& a, JsonObject& result)
+{
+    FlowConversionsModel tool(nullptr);
+    tool.Form_Load();
+    tool.optUnits_Click(std::clamp<int>(a.integer16("units"), 0, 1));
+    tool.optSTP_Click(std::clamp<int>(a.integer16("stp"), 0, 2));
+    tool.optConversion_Click(std::clamp<int>(a.integer16("conversion"), 0, 5));
+    const json& texts = objectArgument(a.raw(), "texts");
+    checkControlNames(texts, {{"txtData", 8}});
+    const int field = std::clamp<int>(a.integer16("field"), 0, 7);
+    for (const auto& [index, value] : controlsOf(texts, "txtData", 8))
+        tool.txtData[static_cast<size_t>(index)].text = textValue(*value, "txtData(" + std::to_string(index) + ")");
+    // The other given fields were left before: they hold their values.
+    try {
+        for (const auto& [index, value] : controlsOf(texts, "txtData", 8))
+            if (index != field && tool.txtData[static_cast<size_t>(index)].role == FieldRole::Input)
+                tool.commitText(index);
+    } catch (const NumericFault&) {
+    }
+    tool.txtData_LostFocus(field);
+    JsonObject shown;
+    for (int i = 0; i < 8; ++i)
+        shown.text("txtData(" + std::to_string(i) + ")", tool.txtData[static_cast<size_t>(i)].text);
+    JsonObject fields;
+    fields.single("StdTemperature", tool.StdTemperature)
+        .single("StdPressure", tool.StdPressure)
+        .single("StdMolarVolume", tool.StdMolarVolume)
+        .single("FlowTemperature", tool.FlowTemperature)
+        .single("FlowPressure", tool.FlowPressure)
+        .single("FlowSCFM", tool.FlowSCFM)
+        .single("FlowACFM", tool.FlowACFM)
+        .single("FlowGPM", tool.FlowGPM)
+        .single("FlowLBHR", tool.FlowLBHR);
+    result.raw("texts", shown.str()).raw("fields", fields.str());
+}
+
+void gasDensityCompute(const RequestArgs& a, JsonObject& result)
+{
+    ScriptedUserInterface ui;
+    GasDensityModel tool(ui);
+    tool.Form_Load();
+    tool.Form_Activate();
+    tool.temperature = a.single("temperature");
+    tool.pressure = a.single("pressure");
+    tool.molecularWeight = a.single("molecularWeight");
+    tool.compressibility = a.single("compressibility");
+    tool.txtData[3] = plainNumberText(tool.molecularWeight);
+    tool.txtData[4] = plainNumberText(tool.compressibility);
+    for (int i = 0; i < 3; ++i)
+        tool.setUnit(i, tool.cboUnits[static_cast<size_t>(i)]);
+    tool.ComputeDensity();
+    JsonObject texts;
+    for (int i = 0; i < 5; ++i)
+        texts.text("txtData(" + std::to_string(i) + ")", tool.txtData[static_cast<size_t>(i)]);
+    result.single("density", tool.density).raw("texts", texts.str());
+}
+
+void compressFactorComputeZ(const RequestArgs& a, JsonObject& result)
+{
+    ScriptedUserInterface ui;
+    CompressFactorModel tool(ui, nullptr);
+    tool.Form_Load();
+    tool.temperature = a.single("temperature");
+    tool.pressure = a.single("pressure");
+    tool.criticalTemperature = a.single("criticalTemperature");
+    tool.criticalPressure = a.single("criticalPressure");
+    tool.txtData[4] = a.textOr("acentricText", "");
+    const json& hydrogen = a.raw().contains("hydrogen") ? a.raw()["hydrogen"] : json(false);
+    tool.hydrogen = hydrogen.is_boolean() ? hydrogen.get<bool>() : a.integer16("hydrogen") != 0;
+    tool.optEOS_Click(std::clamp<int>(a.integer16("eos"), 0, 2));
+    result.text("txtData(5)", tool.txtData[5]);
+}
+
+void heatCapRatioComputeRatio(const RequestArgs& a, JsonObject& result)
+{
+    ScriptedUserInterface ui;
+    HeatCapRatioModel tool(ui);
+    tool.temperature = a.single("temperature");
+    tool.pressure = a.single("pressure");
+    tool.criticalTemperature = a.single("criticalTemperature");
+    tool.criticalPressure = a.single("criticalPressure");
+    tool.heatCapacity = a.single("heatCapacity");
+    tool.ComputeRatio();
+    result.single("ratio", tool.ratio).text("text", tool.txtData[5]).boolean("errorShown", tool.errorShown);
+}
+
+void minorLossesSum(const RequestArgs& a, JsonObject& result)
+{
+    ScriptedUserInterface ui;
+    MinorLossesModel tool(ui);
+    const std::vector<std::string> quantities = textList(a, "quantities", 35);
+    const std::vector<std::string> kValues = textList(a, "kValues", 3);
+    std::copy(quantities.begin(), quantities.end(), tool.txtQuantity.begin());
+    std::copy(kValues.begin(), kValues.end(), tool.txtKValue.begin());
+    tool.Sum();
+    result.text("txtTotalK1", tool.txtTotalK1).text("txtTotalK2", tool.txtTotalK2).text("txtTotalK", tool.txtTotalK);
+}
+
+void reducerRow(ReducerKind kind, const RequestArgs& a, JsonObject& result)
+{
+    ScriptedUserInterface ui;
+    ReducerModel tool(kind, ui);
+    const int row = a.integer16("row");
+    if (row < 0 || row >= ReducerModel::kRows)
+        throw RequestError("argument 'row' must be 0 to 9");
+    if (row < ReducerModel::kGradualRows)
+        tool.txtAngle[static_cast<size_t>(row)] = a.textOr("angle", "");
+    tool.txtBeta[static_cast<size_t>(row)] = a.textOr("beta", "");
+    tool.ComputeRow(row);
+    result.text("txtKValue(" + std::to_string(row) + ")", tool.txtKValue[static_cast<size_t>(row)]);
+}
+
 } // namespace
 
 int controlIndex(const std::string& name, const std::string& family)
@@ -149,6 +279,15 @@ void resetSharedState()
 void addToolCalls(std::map<std::string, CallSpec, std::less<>>& calls)
 {
     calls["PressureDrop.CalculateResults"] = {{}, pressureDropCalculateResults};
+    calls["FlowConversions.Convert"] = {{"conversion", "stp", "units", "field"}, flowConversionsConvert};
+    calls["GasDensity.Compute"] = {{"temperature", "pressure", "molecularWeight", "compressibility"}, gasDensityCompute};
+    calls["CompressFactor.ComputeZ"] = {
+        {"temperature", "pressure", "criticalTemperature", "criticalPressure", "eos"}, compressFactorComputeZ};
+    calls["HeatCapRatio.ComputeRatio"] = {
+        {"temperature", "pressure", "criticalTemperature", "criticalPressure", "heatCapacity"}, heatCapRatioComputeRatio};
+    calls["MinorLosses.Sum"] = {{}, minorLossesSum};
+    calls["Contractions.Row"] = {{"row"}, [](const RequestArgs& a, JsonObject& r) { reducerRow(ReducerKind::Contraction, a, r); }};
+    calls["Enlargements.Row"] = {{"row"}, [](const RequestArgs& a, JsonObject& r) { reducerRow(ReducerKind::Enlargement, a, r); }};
 }
 
 } // namespace kestrova::calc

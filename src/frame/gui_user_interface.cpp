@@ -120,6 +120,18 @@ void GuiUserInterface::GetKValue()
     toolNotAvailable("Minor Pipe Losses");
 }
 
+Single GuiUserInterface::GetContractionK()
+{
+    toolNotAvailable("Contractions");
+    return 1.0;
+}
+
+Single GuiUserInterface::GetEnlargementK()
+{
+    toolNotAvailable("Enlargements");
+    return 1.0;
+}
+
 Single GuiUserInterface::GetZValue(Single, Single)
 {
     toolNotAvailable("Compressibility Factor");

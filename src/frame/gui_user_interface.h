@@ -29,6 +29,8 @@ public:
     Single SelectPipeID(const std::string& selector) override;
     Single SelectRoughness() override;
     void GetKValue() override;
+    Single GetContractionK() override;
+    Single GetEnlargementK() override;
     Single GetZValue(Single temperature, Single pressure) override;
     Single GetHeatCapRatioValue(Single temperature, Single pressure) override;
     Single GetFlowrateConversion(int fluid) override;

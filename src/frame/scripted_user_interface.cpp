@@ -24,10 +24,10 @@ bool ScriptedUserInterface::runSaveAs()
     return saved;
 }
 
-Single ScriptedUserInterface::next(std::deque<Single>& script)
+Single ScriptedUserInterface::nextOr(std::deque<Single>& script, Single cancelValue)
 {
     if (script.empty())
-        return 0.0;
+        return cancelValue;
     const Single value = script.front();
     script.pop_front();
     return value;

@@ -31,6 +31,8 @@ public:
     Single SelectPipeID(const std::string& selector) override;
     Single SelectRoughness() override { return next(roughnessAnswers); }
     void GetKValue() override;
+    Single GetContractionK() override { return nextOr(contractionAnswers, 1.0); }
+    Single GetEnlargementK() override { return nextOr(enlargementAnswers, 1.0); }
     Single GetZValue(Single, Single) override { return next(zAnswers); }
     Single GetHeatCapRatioValue(Single, Single) override { return next(ratioAnswers); }
     Single GetFlowrateConversion(int fluid) override;
@@ -42,6 +44,7 @@ public:
     // default button, and a dialog tool as a cancel.
     std::deque<MessageAnswer> answers;
     std::deque<Single> pipeAnswers, roughnessAnswers, zAnswers, ratioAnswers, flowAnswers, densityAnswers;
+    std::deque<Single> contractionAnswers, enlargementAnswers; // an empty script cancels: 1
     std::deque<bool> saveAsAnswers;
     // Properties to apply at the next GetPhysicalProperties; none means cancel.
     std::deque<bool> propertiesApplied;
@@ -57,7 +60,8 @@ public:
     int kValueCalls = 0;
 
 private:
-    static Single next(std::deque<Single>& script);
+    static Single next(std::deque<Single>& script) { return nextOr(script, 0.0); }
+    static Single nextOr(std::deque<Single>& script, Single cancelValue);
 };
 
 } // namespace kestrova

@@ -39,6 +39,8 @@ public:
     virtual Single SelectPipeID(const std::string& selector) = 0; // "ID" or "OD"; inches
     virtual Single SelectRoughness() = 0;                         // feet
     virtual void GetKValue() = 0;                                 // fills the minor loss store
+    virtual Single GetContractionK() = 0;                         // 1 when the user cancels
+    virtual Single GetEnlargementK() = 0;                         // 1 when the user cancels
     virtual Single GetZValue(Single temperature, Single pressure) = 0;
     virtual Single GetHeatCapRatioValue(Single temperature, Single pressure) = 0;
     virtual Single GetFlowrateConversion(int fluid) = 0; // 1 liquid, 2 gas; lbm/hr

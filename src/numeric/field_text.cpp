@@ -58,7 +58,9 @@ locale_t cLocale()
 
 } // namespace
 
-double parseFieldNumber(std::string_view text, char groupSeparator, char decimalPoint)
+namespace {
+
+std::string plainForm(std::string_view text, char groupSeparator, char decimalPoint)
 {
     while (!text.empty() && std::isspace(static_cast<unsigned char>(text.front())))
         text.remove_prefix(1);
@@ -70,6 +72,19 @@ double parseFieldNumber(std::string_view text, char groupSeparator, char decimal
         if (c != groupSeparator)
             plain.push_back(c == decimalPoint ? '.' : c);
     }
+    return plain;
+}
+
+} // namespace
+
+bool isFieldNumber(std::string_view text, char groupSeparator, char decimalPoint)
+{
+    return isPlainNumber(plainForm(text, groupSeparator, decimalPoint));
+}
+
+double parseFieldNumber(std::string_view text, char groupSeparator, char decimalPoint)
+{
+    const std::string plain = plainForm(text, groupSeparator, decimalPoint);
     if (!isPlainNumber(plain))
         return 0.0;
     errno = 0;

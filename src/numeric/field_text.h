@@ -9,4 +9,7 @@ namespace kestrova {
 
 double parseFieldNumber(std::string_view text, char groupSeparator = ',', char decimalPoint = '.');
 
+// Whether a text reads as a number at all (an empty text does not).
+bool isFieldNumber(std::string_view text, char groupSeparator = ',', char decimalPoint = '.');
+
 } // namespace kestrova

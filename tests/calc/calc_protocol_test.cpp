@@ -199,3 +199,41 @@ TEST(CalcToolCalls, UnknownControlsAndFieldsAreErrors)
     EXPECT_EQ(call("PressureDrop.CalculateResults", {{"units", {{"cboUnits(3)", "ft"}}}})["ok"], false);
     EXPECT_EQ(call("PressureDrop.CalculateResults", {{"record", {{"LiquidFlow", 1e39}}}})["fault"], "numeric");
 }
+
+TEST(CalcToolCalls, DialogToolsAnswerTheirCalls)
+{
+    const json flow = call("FlowConversions.Convert", {{"conversion", 0}, {"stp", 0}, {"units", 0}, {"field", 4},
+                                                        {"texts", {{"txtData(1)", "16.04"}, {"txtData(4)", "1000"}}}})["result"];
+    EXPECT_EQ(flow["texts"]["txtData(7)"], "2,536.6367");
+    EXPECT_NEAR(flow["fields"]["FlowLBHR"].get<double>(), 2536.6367, 1e-3);
+
+    const json density = call("GasDensity.Compute", {{"temperature", 60}, {"pressure", 14.696},
+                                                      {"molecularWeight", 28.97}, {"compressibility", 1}})["result"];
+    EXPECT_NEAR(density["density"].get<double>(), 0.07635, 1e-5);
+    EXPECT_EQ(density["texts"]["txtData(2)"], "0.0763");
+
+    const json zValue = call("CompressFactor.ComputeZ", {{"temperature", 100}, {"pressure", 1000},
+                                                         {"criticalTemperature", -116.65}, {"criticalPressure", 667},
+                                                         {"acentricText", "0.011"}, {"eos", 2}, {"hydrogen", false}})["result"];
+    EXPECT_EQ(zValue["txtData(5)"], "0.8880");
+    const json noZ = call("CompressFactor.ComputeZ", {{"temperature", 0}, {"pressure", 0}, {"criticalTemperature", 0},
+                                                      {"criticalPressure", 0}, {"eos", 0}})["result"];
+    EXPECT_EQ(noZ["txtData(5)"], "");
+
+    const json ratio = call("HeatCapRatio.ComputeRatio", {{"temperature", 60}, {"pressure", 14.696},
+                                                          {"criticalTemperature", -116.65}, {"criticalPressure", 667},
+                                                          {"heatCapacity", 5}})["result"];
+    EXPECT_EQ(ratio["errorShown"], true);
+
+    json quantities = json::array();
+    for (int i = 0; i < 35; ++i)
+        quantities.push_back(i == 4 ? "2" : i == 23 ? "1" : "");
+    const json sums = call("MinorLosses.Sum", {{"quantities", quantities}, {"kValues", {"", "", "0.5"}}})["result"];
+    EXPECT_EQ(sums["txtTotalK1"], "3,100");
+    EXPECT_EQ(sums["txtTotalK2"], "2.30");
+    EXPECT_EQ(sums["txtTotalK"], "0.50");
+
+    EXPECT_EQ(call("Contractions.Row", {{"row", 0}, {"angle", "30"}, {"beta", "0.5"}})["result"]["txtKValue(0)"], "0.156");
+    EXPECT_EQ(call("Enlargements.Row", {{"row", 1}, {"angle", "90"}, {"beta", "0.5"}})["result"]["txtKValue(1)"], "0.563");
+    EXPECT_EQ(call("Enlargements.Row", {{"row", 12}, {"beta", "0.5"}})["ok"], false);
+}

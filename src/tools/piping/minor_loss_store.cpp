@@ -15,6 +15,18 @@ MinorLossStore& minorLossStore()
     return store;
 }
 
+ReducerStore& contractionStore()
+{
+    static ReducerStore store;
+    return store;
+}
+
+ReducerStore& enlargementStore()
+{
+    static ReducerStore store;
+    return store;
+}
+
 std::int16_t& CurrentLine()
 {
     static std::int16_t line = 0;

@@ -30,6 +30,15 @@ struct MinorLossStore {
 
 MinorLossStore& minorLossStore();
 
+// What the contraction and the enlargement tools remember per slot: the five
+// angles of the gradual rows, then the ten betas, and whether it was applied.
+struct ReducerStore {
+    std::array<std::array<Single, 15>, kMinorLossSlots> values{};
+    std::array<bool, kMinorLossSlots> hasData{};
+};
+ReducerStore& contractionStore();
+ReducerStore& enlargementStore();
+
 // The slot that the minor loss tool works on (0 to 11).
 std::int16_t& CurrentLine();
 

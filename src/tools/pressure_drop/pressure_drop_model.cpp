@@ -48,7 +48,7 @@ std::vector<int> inputFieldsOfTab(int tab)
 
 } // namespace
 
-PressureDropModel::PressureDropModel(UserInterface& ui, QObject* parent) : QObject(parent), ui_(ui)
+PressureDropModel::PressureDropModel(UserInterface& ui, QObject* parent) : FormModel(parent), ui_(ui)
 {
     Label1 = {{3, {"Pipe/Tube Diameter:"}}, {4, {"Width of Conduit:"}}, {7, {"Height of Conduit:"}},
               {9, {"K1, K2, K3:"}},         {19, {"Pipe/Tube Diameter:"}}, {28, {"K1, K2, K3:"}},

@@ -4,9 +4,8 @@
 // routines under their own names. frmPressureDrop only mirrors it.
 
 #include "frame/document_tool.h"
+#include "frame/form_model.h"
 #include "tools/pressure_drop/pressure_drop_record.h"
-
-#include <QObject>
 
 #include <array>
 #include <map>
@@ -49,7 +48,7 @@ struct ButtonControl {
     bool enabled = true;
 };
 
-class PressureDropModel : public QObject, public DocumentTool {
+class PressureDropModel : public FormModel, public DocumentTool {
     Q_OBJECT
 
 public:
@@ -119,26 +118,7 @@ public:
     bool isActive() const { return active_; }
     int crossSectionOfShownTab() const { return tab == 0 ? crossSectionLiquid : crossSectionGas; }
 
-signals:
-    void changed();
-
 private:
-    // Emits changed() once, when the outermost event routine ends.
-    class ChangeNotice {
-    public:
-        explicit ChangeNotice(PressureDropModel& model) : model_(model) { ++model_.eventDepth_; }
-        ~ChangeNotice()
-        {
-            if (--model_.eventDepth_ == 0)
-                emit model_.changed();
-        }
-        ChangeNotice(const ChangeNotice&) = delete;
-        ChangeNotice& operator=(const ChangeNotice&) = delete;
-
-    private:
-        PressureDropModel& model_;
-    };
-
     void showField(int index);
     void setDirty();
     void applyGlobalUnits();
@@ -163,7 +143,6 @@ private:
     UserInterface& ui_;
     std::string fileName_;
     bool active_ = false;
-    int eventDepth_ = 0;
 };
 
 } // namespace kestrova

@@ -3,6 +3,7 @@
 // table that ties each txtData field to a record field, a unit list and masks.
 
 #include "frame/global_units.h"
+#include "frame/unit_field.h"
 #include "numeric/single.h"
 
 #include <array>
@@ -22,15 +23,6 @@ struct PressureDropData {
     static constexpr int kFieldCount = 31;
     // The fields in file order.
     std::array<Single*, kFieldCount> fields();
-};
-
-// A kind of field: its unit list tag, its conversions and one display mask
-// per unit index.
-struct FieldKind {
-    const char* tag;
-    double (*toUnit)(double, UnitIndex);
-    double (*fromUnit)(double, UnitIndex);
-    std::array<const char*, 8> masks;
 };
 
 struct FieldBinding {

@@ -1,0 +1,140 @@
+#include "frame/scripted_user_interface.h"
+#include "frame/settings_store.h"
+#include "tools/flow/flow_conversions_model.h"
+#include "tools/flow/gas_density_model.h"
+
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+using namespace kestrova;
+
+class FlowConversionsTest : public testing::Test {
+protected:
+    FlowConversionsTest() : store(dir.filePath("Kestrova.ini")), tool(&store) { tool.Form_Load(); }
+    void type(int field, const std::string& text)
+    {
+        tool.txtData[static_cast<size_t>(field)].text = text;
+        tool.txtData_LostFocus(field);
+    }
+    QTemporaryDir dir;
+    SettingsStore store;
+    FlowConversionsModel tool;
+};
+
+TEST_F(FlowConversionsTest, StandardGasVolumeToMassAndBack)
+{
+    tool.optConversion_Click(0);
+    EXPECT_EQ(tool.txtData[1].role, FieldRole::Input);
+    EXPECT_EQ(tool.txtData[7].role, FieldRole::Output);
+    EXPECT_EQ(tool.txtData[6].role, FieldRole::NotUsed);
+    type(1, "16.04");
+    type(4, "1,000");
+    // 1000 SCFM of methane: 1000 * 60 * 16.04 / 379.4 lb/h.
+    EXPECT_NEAR(tool.FlowLBHR, 1000 * 60 * 16.04 / 379.4, 0.01);
+    EXPECT_EQ(tool.txtData[7].text, "2,536.6367");
+    // At NTP the molar volume is 359.0.
+    tool.optSTP_Click(1);
+    EXPECT_NEAR(tool.FlowLBHR, 1000 * 60 * 16.04 / 359.0, 0.01);
+    EXPECT_EQ(store.get("Settings", "FlowConversion", ""), "0");
+}
+
+TEST_F(FlowConversionsTest, ActualVolumeDirectionsUseTheirOwnOffsets)
+{
+    tool.optConversion_Click(4);
+    type(2, "100");
+    type(3, "50");
+    type(4, "1000");
+    const double acfm = tool.FlowACFM;
+    EXPECT_NEAR(acfm, 1000 / ((519.67 / 559.67) * (64.696 / 14.696)), 0.01);
+    tool.optConversion_Click(5); // forgets the numbers
+    EXPECT_EQ(tool.txtData[2].text, "");
+    type(2, "100");
+    type(3, "50");
+    type(5, std::to_string(acfm));
+    EXPECT_NE(tool.FlowSCFM, 1000); // 460 against 459.67
+    EXPECT_NEAR(tool.FlowSCFM, 1000, 1.0);
+}
+
+TEST_F(FlowConversionsTest, MetricUnitsShowMetricAndKeepAmerican)
+{
+    tool.optUnits_Click(1);
+    EXPECT_EQ(tool.conversionCaption(2), "m3/hr -> kg/hr");
+    EXPECT_EQ(tool.unitLabel("lblUnitsFP"), "barg");
+    tool.optConversion_Click(2);
+    type(0, "1.0");
+    type(6, "1"); // 1 m3/h of water is 1000 kg/h
+    EXPECT_NEAR(tool.FlowLBHR, 4.40286754 * 500, 1e-3);
+    EXPECT_EQ(tool.txtData[7].text, "998.5535"); // 500 lb/h per gpm is water at 998.5 kg/m3
+}
+
+TEST_F(FlowConversionsTest, AFailedConversionEmptiesEveryField)
+{
+    tool.optConversion_Click(0);
+    type(4, "1000"); // no molecular weight
+    for (const auto& field : tool.txtData)
+        EXPECT_EQ(field.text, "");
+}
+
+TEST_F(FlowConversionsTest, TheEntryPointReturnsTheMassFlowOnlyOnApply)
+{
+    const Single liquid = tool.GetFlowrateConversion(1, [this] {
+        EXPECT_FALSE(tool.conversionEnabled[0]);
+        EXPECT_TRUE(tool.conversionEnabled[2]);
+        EXPECT_EQ(tool.conversion, 2);
+        EXPECT_FALSE(tool.stpEnabled);
+        type(0, "1");
+        type(6, "10");
+        tool.cmdApply_Click();
+    });
+    EXPECT_EQ(liquid, 5000);
+    EXPECT_EQ(tool.GetFlowrateConversion(2, [this] { tool.cmdCancel_Click(); }), 0);
+    EXPECT_EQ(tool.GetFlowrateConversion(3, [] { FAIL() << "shown for an unknown kind"; }), 0);
+    tool.Form_Unload();
+    EXPECT_EQ(store.get("Settings", "Flow Conv Conv", ""), "0");
+}
+
+TEST(GasDensity, RealGasLawWithItsOwnOffset)
+{
+    ScriptedUserInterface ui;
+    GasDensityModel tool(ui);
+    tool.Form_Load();
+    tool.Form_Activate();
+    tool.txtData = {"60", "14.696", "", "28.97", "1"};
+    for (int i : {0, 1, 3, 4})
+        tool.txtData_LostFocus(i);
+    // Air at 60 °F and one atmosphere: 0.0763 lb/ft3.
+    EXPECT_NEAR(tool.density, 14.696 * 28.97 / (10.73 * (60 + 459.69)), 1e-7);
+    EXPECT_EQ(tool.txtData[2], "0.0763");
+    tool.setUnit(2, 2);
+    EXPECT_EQ(tool.txtData[2], "1.2230"); // kg/m3
+
+    // Z of 0: the density reads zero, not empty, and Apply takes it.
+    tool.txtData[4] = "0";
+    tool.txtData_LostFocus(4);
+    EXPECT_EQ(tool.density, 0);
+    EXPECT_EQ(tool.txtData[2], "0.0000");
+}
+
+TEST(GasDensity, TheEntryPointAndItsRefusal)
+{
+    ScriptedUserInterface ui;
+    GasDensityModel tool(ui);
+    tool.Form_Load();
+    ui.zAnswers = {0.98};
+    const Single density = tool.GetGasDensity(100, 50, [&] {
+        EXPECT_EQ(tool.txtData[0], "100.00");
+        tool.txtData[2].clear();
+        tool.cmdApply_Click();
+        EXPECT_EQ(ui.messages.back().text, "A gas density has not been computed.");
+        EXPECT_EQ(ui.messages.back().title, "Gas Density");
+        EXPECT_FALSE(tool.closeRequested);
+        tool.txtData[3] = "18.015";
+        tool.txtData_LostFocus(3);
+        tool.cmdTable_Click(); // Z from the compressibility tool
+        EXPECT_EQ(tool.txtData[4], "0.98");
+        tool.cmdApply_Click();
+    });
+    EXPECT_NEAR(density, 50 * 18.015 / (0.98 * 10.73 * 559.69), 1e-6);
+    EXPECT_EQ(tool.GetGasDensity(100, 50, [&] { tool.cmdClose_Click(); }), 0);
+}

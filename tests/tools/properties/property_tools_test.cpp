@@ -1,0 +1,189 @@
+#include "frame/global_units.h"
+#include "frame/scripted_user_interface.h"
+#include "frame/settings_store.h"
+#include "numeric/numeric_fault.h"
+#include "tools/properties/compress_factor_model.h"
+#include "tools/properties/heat_cap_ratio_model.h"
+#include "tools/properties/phys_props.h"
+#include "tools/properties/physical_properties_model.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+using namespace kestrova;
+
+namespace {
+
+// Methane: Tc 190.56 K (-116.65 °F), Pc 45.99 bar (667.0 psia), omega 0.011.
+constexpr double kMethaneTc = -116.65, kMethanePc = 667.0;
+
+double z(double t, double p, double omega, int eos, bool hydrogen = false)
+{
+    return computeCompressibility(t, p, kMethaneTc, kMethanePc, omega, eos, hydrogen);
+}
+
+} // namespace
+
+TEST(Compressibility, CubicEquationsAgainstPublishedMethaneValues)
+{
+    // Methane at 100 °F and 1000 psia: Z = 0.89 (Standing-Katz, NIST 0.8905).
+    EXPECT_NEAR(z(100, 1000, 0.011, 2), 0.8905, 0.006);
+    EXPECT_NEAR(z(100, 1000, 0.011, 1), 0.8905, 0.03); // Soave reads about 3 % high here
+    EXPECT_NEAR(z(100, 1000, 0.011, 0), 0.8905, 0.02);
+    // Near the ideal gas at low pressure.
+    EXPECT_NEAR(z(100, 14.7, 0.011, 2), 1.0, 0.003);
+    // Redlich-Kwong ignores omega; Soave without omega has m = 0.48.
+    EXPECT_EQ(z(100, 1000, 0.0, 0), z(100, 1000, 0.5, 0));
+    EXPECT_NE(z(100, 1000, 0.0, 1), z(100, 1000, 0.2, 1));
+    // The hydrogen form of Soave takes no omega.
+    EXPECT_EQ(z(100, 1000, 0.0, 1, true), z(100, 1000, 0.3, 1, true));
+    EXPECT_EQ(z(100, 1000, 0.011, 2, true), z(100, 1000, 0.011, 2, false));
+    EXPECT_THROW(computeCompressibility(0, 0, 0, 0, 0, 0, false), NumericFault);
+}
+
+TEST(Compressibility, TheToolShowsZAndRefusesToApplyWithout)
+{
+    QTemporaryDir dir;
+    SettingsStore store(dir.filePath("Kestrova.ini"));
+    ScriptedUserInterface ui;
+    CompressFactorModel tool(ui, &store);
+    tool.Form_Load();
+    EXPECT_EQ(tool.eos, 0);
+    EXPECT_FALSE(tool.acentricEnabled);
+    tool.Form_Activate();
+    EXPECT_EQ(tool.txtData[5], ""); // all inputs zero
+    tool.cmdApply_Click();
+    EXPECT_EQ(ui.messages.back().text, "A compressibility factor has not been computed.");
+
+    physProps().criticalTemperature = kMethaneTc;
+    physProps().criticalPressure = kMethanePc;
+    physProps().acentricFactor = 0.011;
+    physProps().gasName = "Methane";
+    const Single result = tool.GetZValue(100, 1000, [&] {
+        EXPECT_EQ(tool.inputsCaption, "Inputs:  Methane");
+        tool.optEOS_Click(2);
+        EXPECT_TRUE(tool.acentricEnabled);
+        EXPECT_EQ(tool.txtData[5], "0.8880");
+        tool.cmdApply_Click();
+    });
+    EXPECT_EQ(result, Single(0.888));
+    EXPECT_EQ(store.get("Settings", "EOSOption", ""), "2");
+    EXPECT_EQ(tool.GetZValue(100, 1000, [&] { tool.cmdClose_Click(); }), 0);
+
+    // After a reset the empty acentric factor takes the error path.
+    tool.cmdReset_Click();
+    tool.txtData = {"100", "1000", "-116.65", "667", "", ""};
+    for (int i = 0; i < 4; ++i)
+        tool.txtData_LostFocus(i);
+    EXPECT_EQ(tool.txtData[5], "");
+    physProps() = PhysProps{};
+}
+
+TEST(HeatCapacityRatio, RealGasCalculationAndTypicalValues)
+{
+    ScriptedUserInterface ui;
+    HeatCapRatioModel tool(ui);
+    tool.temperature = 60;
+    tool.pressure = 14.696;
+    tool.criticalTemperature = kMethaneTc;
+    tool.criticalPressure = kMethanePc;
+    tool.heatCapacity = 35.7; // methane, kJ/(kmol K)
+    tool.ComputeRatio();
+    // Ideal gas: 35.7 / (35.7 - 8.314) = 1.3036; the residual term adds a little.
+    EXPECT_NEAR(tool.ratio, 1.3036, 0.003);
+    EXPECT_EQ(tool.txtData[5], "1.305");
+    EXPECT_FALSE(tool.errorShown);
+    tool.Option1_Click(11);
+    EXPECT_EQ(tool.txtData[5], "1.31");
+    EXPECT_NEAR(tool.ratio, 1.305, 0.001); // the ratio itself is not changed
+    tool.Option1_Click(17);
+    EXPECT_EQ(tool.txtData[5], "1.305");
+    tool.heatCapacity = 5;
+    tool.ComputeRatio();
+    EXPECT_LT(tool.ratio, 0);
+    EXPECT_TRUE(tool.errorShown);
+    tool.heatCapacity = 0;
+    tool.ComputeRatio();
+    EXPECT_EQ(tool.ratio, 0);
+    EXPECT_TRUE(tool.errorShown);
+    EXPECT_EQ(typicalRatios()[1].formula, std::string("O2, N2, Air, H2, CO, NO, etc."));
+}
+
+class PhysicalPropertiesTest : public testing::Test {
+protected:
+    PhysicalPropertiesTest()
+        : tool(ui, readCompounds(QDir(KESTROVA_DATA_DIR).filePath("compounds.sqlite")))
+    {
+        globalUnits() = GlobalUnits{};
+        tool.Form_Activate();
+    }
+    int positionOf(const std::string& name) const
+    {
+        for (size_t i = 0; i < tool.compounds().size(); ++i)
+            if (tool.compounds()[i].name == name)
+                return static_cast<int>(i);
+        return -1;
+    }
+    ScriptedUserInterface ui;
+    PhysicalPropertiesModel tool;
+};
+
+TEST_F(PhysicalPropertiesTest, WaterAt25CelsiusAgainstPublishedValues)
+{
+    ASSERT_GT(tool.compounds().size(), 300u);
+    tool.dbcComp_Click(positionOf("Water"));
+    EXPECT_EQ(tool.frameCaption, "Physical Properties:  Water");
+    EXPECT_NEAR(tool.value[8], 298.15, 1e-9);
+    // 997.05 kg/m3, 0.890 mPa s, 3169.9 Pa (IAPWS).
+    EXPECT_NEAR(tool.value[0] * 18.01528, 997.05, 0.3);
+    EXPECT_NEAR(tool.value[1], 0.000890, 0.000005);
+    EXPECT_NEAR(tool.value[3], 3169.9, 5);
+    EXPECT_EQ(tool.shade[0], PropertyShade::InRange);
+    tool.setUnit(0, 2);
+    EXPECT_EQ(tool.txtPhysProp[0], "996.813"); // kg/m3, from the data base's fit
+    tool.setUnit(1, 0);
+    EXPECT_EQ(tool.txtPhysProp[1], "8.930E-01"); // cP
+
+    // Applied for a liquid, the properties go to the shared record in its units.
+    physProps() = PhysProps{};
+    tool.GetPhysicalProperties(FluidKind::Liquid, 77, [&] { tool.cmdSelect_Click(); });
+    EXPECT_FALSE(propertiesCancelled());
+    EXPECT_EQ(physProps().liquidName, "Water");
+    EXPECT_NEAR(physProps().liquidDensity, 62.24, 0.02); // lb/ft3
+    EXPECT_NEAR(physProps().liquidViscosity, 0.00089, 0.000005);
+    EXPECT_NEAR(physProps().vaporPressure, 0.4598, 0.001); // psi
+    EXPECT_EQ(physProps().vaporViscosity, 0);             // a liquid leaves the vapour's
+    EXPECT_NEAR(physProps().temperature, 77, 1e-4);
+}
+
+TEST_F(PhysicalPropertiesTest, MethaneHeatCapacityLimitsAndColours)
+{
+    tool.dbcComp_Click(positionOf("Methane"));
+    // Ideal-gas Cp at 298.15 K: 35.69 kJ/(kmol K).
+    EXPECT_NEAR(tool.value[4] / 1000, 35.69, 0.1);
+    tool.setUnit(4, 2);
+    EXPECT_EQ(tool.txtPhysProp[4], "35.778"); // kJ/(kmol K)
+    // 25 °C is above methane's critical point: the liquid rows are out of range.
+    EXPECT_EQ(tool.shade[0], PropertyShade::OutOfRange);
+    EXPECT_EQ(tool.shade[4], PropertyShade::InRange);
+    EXPECT_EQ(tool.txtUTL[0], "-117"); // 190.56 K in °F
+    tool.GetPhysicalProperties(FluidKind::Gas, 77, [&] { tool.cmdSelect_Click(); });
+    EXPECT_EQ(physProps().gasName, "Methane");
+    EXPECT_NEAR(physProps().heatCapacity, 35.69, 0.1);
+    EXPECT_NEAR(physProps().criticalTemperature, -116.65, 0.05);
+    tool.GetPhysicalProperties(FluidKind::Gas, 77, [&] { tool.cmdClose_Click(); });
+    EXPECT_TRUE(propertiesCancelled());
+    physProps() = PhysProps{};
+}
+
+TEST_F(PhysicalPropertiesTest, AMissingCorrelationShowsBlue)
+{
+    const int butanol = positionOf("2-Butanol");
+    ASSERT_GE(butanol, 0);
+    tool.dbcComp_Click(butanol);
+    EXPECT_EQ(tool.shade[3], PropertyShade::Missing); // no vapour pressure
+    EXPECT_FALSE(tool.unitEnabled[3]);
+    EXPECT_EQ(tool.value[3], 0);
+}
