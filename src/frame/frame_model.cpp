@@ -165,6 +165,19 @@ bool FrameModel::mnuFileSaveAs_Click(DocumentTool* active, const std::function<s
     return true;
 }
 
+bool FrameModel::locateDataBase(const std::string& path)
+{
+    if (!isValidDataBaseFile(path)) {
+        ui_.ask("Locate Data Base", "Not a valid physical properties data base file.", MessageIcon::Stop,
+                MessageButtons::Ok, MessageAnswer::Ok);
+        return false;
+    }
+    store_.save("Settings", "DataBaseLocation", path);
+    store_.sync();
+    dataBaseValid_ = true;
+    return true;
+}
+
 void FrameModel::mnuFilePrintDataSheet_Click(DocumentTool* active)
 {
     ui_.setStatusText("Print Data Sheet");

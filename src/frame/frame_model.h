@@ -49,6 +49,8 @@ public:
     bool mnuFileSave_Click(DocumentTool* active, const std::function<std::string(const std::string&)>& chooseFile);
     bool mnuFileSaveAs_Click(DocumentTool* active, const std::function<std::string(const std::string&)>& chooseFile);
     void mnuFilePrintDataSheet_Click(DocumentTool* active);
+    // Takes a chosen file as the compound data base if it passes the file test.
+    bool locateDataBase(const std::string& path);
 
     RecentFiles recentFiles;
 

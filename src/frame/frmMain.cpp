@@ -431,14 +431,14 @@ void frmMain::mnuToolsRestrictionOrifices_Click()
 void frmMain::mnuToolsDialog_Click()
 {
     auto* sent = qobject_cast<QAction*>(sender());
-    QString caption = sent ? sent->text() : QString();
-    caption.remove('&');
-    if (sent && sent->objectName() == "mnuToolsPP") {
+    if (!sent)
+        return;
+    if (sent->objectName() == "mnuToolsPP") {
         model_.MDIForm_Activate();
         if (!model_.dataBaseFileValid())
             return; // without a valid data base the entry does nothing at all
     }
-    ui_.toolNotAvailable(caption.toStdString());
+    ui_.showTool(sent->objectName().toStdString());
 }
 
 void frmMain::showRegimeMap(bool horizontal)
@@ -531,7 +531,13 @@ void frmMain::mnuFilePrintSetup_Click()
 
 void frmMain::mnuFileLocateDataBase_Click()
 {
-    ui_.toolNotAvailable("Locate Data Base");
+    setStatusText("Locate Data Base");
+    const QString current = QString::fromStdString(model_.dataBaseLocation());
+    const QString chosen = QFileDialog::getOpenFileName(this, "Locate Data Base", QFileInfo(current).absolutePath(),
+                                                        "Data bases (*.sqlite *.db);;All Files (*.*)");
+    if (chosen.isEmpty())
+        return; // cancelled: the old location stays
+    model_.locateDataBase(chosen.toStdString());
 }
 
 void frmMain::mnuEditCompanyInfo_Click()

@@ -1,7 +1,13 @@
 #include "frame/gui_user_interface.h"
 
 #include "frame/frmMain.h"
+#include "tools/flow/flow_dialogs.h"
+#include "tools/piping/minor_loss_store.h"
+#include "tools/piping/piping_dialogs.h"
 #include "tools/properties/phys_props.h"
+#include "tools/properties/property_dialogs.h"
+
+#include <QCoreApplication>
 
 #include <QApplication>
 #include <QMessageBox>
@@ -103,63 +109,164 @@ void GuiUserInterface::toolNotAvailable(const std::string& tool)
         MessageButtons::Ok, MessageAnswer::Ok);
 }
 
-Single GuiUserInterface::SelectPipeID(const std::string&)
+namespace {
+
+QString programFolder()
 {
-    toolNotAvailable("Pipe Size Data");
-    return 0.0;
+    return QCoreApplication::applicationDirPath();
+}
+
+const char* kNoDataBase = "The physical properties data base cannot be found. Use File, Locate Data Base to choose it.";
+
+} // namespace
+
+Single GuiUserInterface::SelectPipeID(const std::string& selector)
+{
+    PipeModel model(*this, &frame_.settings(), programFolder());
+    model.Form_Load();
+    frmPipe dialog(model, *this, &frame_);
+    model.Form_Activate();
+    return model.SelectPipeID(selector, [&] { dialog.runModal(); });
 }
 
 Single GuiUserInterface::SelectRoughness()
 {
-    toolNotAvailable("Pipe Roughness");
-    return 0.0;
+    RoughnessModel model(*this, &frame_.settings());
+    model.Form_Load();
+    frmRoughness dialog(model, *this, &frame_);
+    model.Form_Activate();
+    return model.SelectRoughness([&] { dialog.runModal(); });
 }
 
 void GuiUserInterface::GetKValue()
 {
-    toolNotAvailable("Minor Pipe Losses");
+    MinorLossesModel model(*this);
+    model.Form_Load();
+    frmMinorLosses dialog(model, *this, &frame_);
+    model.GetKValue([&] { dialog.runModal(); });
 }
 
 Single GuiUserInterface::GetContractionK()
 {
-    toolNotAvailable("Contractions");
-    return 1.0;
+    ReducerModel model(ReducerKind::Contraction, *this);
+    model.Form_Load();
+    frmReducer dialog(model, *this, &frame_);
+    return model.GetK([&] { dialog.runModal(); });
 }
 
 Single GuiUserInterface::GetEnlargementK()
 {
-    toolNotAvailable("Enlargements");
-    return 1.0;
+    ReducerModel model(ReducerKind::Enlargement, *this);
+    model.Form_Load();
+    frmReducer dialog(model, *this, &frame_);
+    return model.GetK([&] { dialog.runModal(); });
 }
 
-Single GuiUserInterface::GetZValue(Single, Single)
+Single GuiUserInterface::GetZValue(Single temperature, Single pressure)
 {
-    toolNotAvailable("Compressibility Factor");
-    return 0.0;
+    CompressFactorModel model(*this, &frame_.settings());
+    model.Form_Load();
+    frmCompressFactor dialog(model, *this, frame_.model().dataBaseFileValid(), &frame_);
+    return model.GetZValue(temperature, pressure, [&] { dialog.runModal(); });
 }
 
-Single GuiUserInterface::GetHeatCapRatioValue(Single, Single)
+Single GuiUserInterface::GetHeatCapRatioValue(Single temperature, Single pressure)
 {
-    toolNotAvailable("Heat Capacity Ratio");
-    return 0.0;
+    HeatCapRatioModel model(*this);
+    frmHeatCapRatio dialog(model, *this, frame_.model().dataBaseFileValid(), &frame_);
+    return model.GetHeatCapRatioValue(temperature, pressure, [&] { dialog.runModal(); });
 }
 
-Single GuiUserInterface::GetFlowrateConversion(int)
+Single GuiUserInterface::GetFlowrateConversion(int fluid)
 {
-    toolNotAvailable("Flow Conversions");
-    return 0.0;
+    FlowConversionsModel model(&frame_.settings());
+    model.Form_Load();
+    frmFlowConversions dialog(model, *this, &frame_);
+    const Single flow = model.GetFlowrateConversion(fluid, [&] { dialog.runModal(); });
+    model.Form_Unload();
+    return flow;
 }
 
-Single GuiUserInterface::GetGasDensity(Single, Single)
+Single GuiUserInterface::GetGasDensity(Single temperature, Single pressure)
 {
-    toolNotAvailable("Gas/Vapor Density");
-    return 0.0;
+    GasDensityModel model(*this);
+    model.Form_Load();
+    frmGasDensity dialog(model, *this, &frame_);
+    model.Form_Activate();
+    return model.GetGasDensity(temperature, pressure, [&] { dialog.runModal(); });
 }
 
-void GuiUserInterface::GetPhysicalProperties(FluidKind, Single)
+void GuiUserInterface::GetPhysicalProperties(FluidKind fluid, Single temperature)
 {
-    toolNotAvailable("Physical Properties");
     propertiesCancelled() = true;
+    frame_.model().MDIForm_Activate();
+    if (!frame_.model().dataBaseFileValid()) {
+        ask("Physical Properties", kNoDataBase, MessageIcon::Warning, MessageButtons::Ok, MessageAnswer::Ok);
+        return;
+    }
+    try {
+        setBusyPointer(true);
+        PhysicalPropertiesModel model(*this, readCompounds(QString::fromStdString(frame_.model().dataBaseLocation())));
+        setBusyPointer(false);
+        frmPhysicalProperties dialog(model, *this, &frame_);
+        model.GetPhysicalProperties(fluid, temperature, [&] { dialog.runModal(); });
+    } catch (const std::exception& error) {
+        setBusyPointer(false);
+        ask("Physical Properties", error.what(), MessageIcon::Stop, MessageButtons::Ok, MessageAnswer::Ok);
+        propertiesCancelled() = true;
+    }
+}
+
+void GuiUserInterface::showTool(const std::string& menuName)
+{
+    if (menuName == "mnuToolsPipeData") {
+        PipeModel model(*this, &frame_.settings(), programFolder());
+        model.Form_Load();
+        frmPipe dialog(model, *this, &frame_);
+        model.Form_Activate();
+        dialog.runModal();
+    } else if (menuName == "mnuToolsRoughness") {
+        RoughnessModel model(*this, &frame_.settings());
+        model.Form_Load();
+        frmRoughness dialog(model, *this, &frame_);
+        model.Form_Activate();
+        dialog.runModal();
+    } else if (menuName == "mnuToolsMinorLosses") {
+        CurrentLine() = 0;
+        MinorLossesModel model(*this);
+        model.Form_Load();
+        frmMinorLosses dialog(model, *this, &frame_);
+        dialog.runModal();
+    } else if (menuName == "mnuToolsFlowConversions") {
+        FlowConversionsModel model(&frame_.settings());
+        model.Form_Load();
+        frmFlowConversions dialog(model, *this, &frame_);
+        dialog.runModal();
+        model.Form_Unload();
+    } else if (menuName == "mnuToolsGasDensity") {
+        GasDensityModel model(*this);
+        model.Form_Load();
+        frmGasDensity dialog(model, *this, &frame_);
+        model.Form_Activate();
+        dialog.runModal();
+    } else if (menuName == "mnuToolsCompressFactor") {
+        CompressFactorModel model(*this, &frame_.settings());
+        model.Form_Load();
+        frmCompressFactor dialog(model, *this, frame_.model().dataBaseFileValid(), &frame_);
+        dialog.runModal();
+    } else if (menuName == "mnuToolsHeatCapRatio") {
+        HeatCapRatioModel model(*this);
+        frmHeatCapRatio dialog(model, *this, frame_.model().dataBaseFileValid(), &frame_);
+        dialog.runModal();
+    } else if (menuName == "mnuToolsPP") {
+        try {
+            PhysicalPropertiesModel model(*this, readCompounds(QString::fromStdString(frame_.model().dataBaseLocation())));
+            frmPhysicalProperties dialog(model, *this, &frame_);
+            dialog.runModal();
+        } catch (const std::exception& error) {
+            ask("Physical Properties", error.what(), MessageIcon::Stop, MessageButtons::Ok, MessageAnswer::Ok);
+        }
+    }
 }
 
 void GuiUserInterface::showRegimeMap(const std::string& orientation)

@@ -24,8 +24,7 @@ public:
     void setToolbarButtonEnabled(const std::string& key, bool enabled) override;
     bool runSaveAs() override;
 
-    // The dialog tools of the piping, flow and property subsystems are not
-    // part of this version: each tells the user so and answers as a cancel.
+    // The dialog tools, each shown modally over the frame on its own model.
     Single SelectPipeID(const std::string& selector) override;
     Single SelectRoughness() override;
     void GetKValue() override;
@@ -39,6 +38,8 @@ public:
     void showRegimeMap(const std::string& orientation) override;
 
     void toolNotAvailable(const std::string& tool);
+    // A dialog tool opened by itself from the Tools menu, by its menu entry's name.
+    void showTool(const std::string& menuName);
 
 private:
     frmMain& frame_;

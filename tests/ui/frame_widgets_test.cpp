@@ -3,6 +3,9 @@
 // menu enabling and saving through the frame.
 
 #include "frame/frmMain.h"
+#include "frame/scripted_user_interface.h"
+#include "tools/piping/piping_dialogs.h"
+#include "tools/properties/property_dialogs.h"
 #include "frame/settings_store.h"
 #include "tools/pressure_drop/pressure_drop_model.h"
 
@@ -14,6 +17,9 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QRadioButton>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTableWidget>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -139,5 +145,46 @@ private slots:
     }
 };
 
-QTEST_MAIN(FrameWidgetsTest)
+class DialogWidgetsTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void pipeGridShowsTheMaterialWithMergedCells()
+    {
+        ScriptedUserInterface ui;
+        PipeModel model(ui, nullptr, QCoreApplication::applicationDirPath());
+        model.Form_Load();
+        frmPipe dialog(model, ui, nullptr);
+        dialog.show();
+        auto* grid = dialog.findChild<QTableWidget*>("grdPipeSize(0)");
+        QVERIFY(grid && grid->columnCount() > 1);
+        QCOMPARE(grid->horizontalHeaderItem(1)->text(), QString(" OD, in "));
+        QVERIFY(grid->rowCount() > 0 && grid->item(0, 1));
+        QCOMPARE(grid->item(0, 1)->text(), QString("0.405"));
+        QVERIFY(grid->rowSpan(0, 0) > 1); // equal neighbours merge
+        QVERIFY(!dialog.findChild<QPushButton*>("cmdSelect")->isEnabled()); // a viewer by itself
+        dialog.findChild<QRadioButton*>("optASTMMaterial(2)")->click();
+        QCOMPARE(dialog.findChild<QListWidget*>("lstMaterial(0)")->item(0)->text(), QString("Copper (ASTM B88)"));
+    }
+
+    void compoundListIsSearchedByTyping()
+    {
+        ScriptedUserInterface ui;
+        PhysicalPropertiesModel model(ui, readCompounds(QCoreApplication::applicationDirPath() + "/compounds.sqlite"));
+        frmPhysicalProperties dialog(model, ui, nullptr);
+        dialog.show();
+        auto* search = dialog.findChild<QLineEdit*>("txtSearch");
+        QTest::keyClicks(search, "Methan"); // "Metha" would stop at Methacrylic acid
+        QCOMPARE(QString::fromStdString(model.compounds()[static_cast<size_t>(model.position)].name), QString("Methane"));
+        QCOMPARE(dialog.findChild<QGroupBox*>("Frame1(3)")->title(), QString("Physical Properties:  Methane"));
+    }
+};
+
+int main(int argc, char** argv)
+{
+    QApplication app(argc, argv);
+    FrameWidgetsTest frame;
+    DialogWidgetsTest dialogs;
+    return QTest::qExec(&frame, argc, argv) | QTest::qExec(&dialogs, argc, argv);
+}
 #include "frame_widgets_test.moc"

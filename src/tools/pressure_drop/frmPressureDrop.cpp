@@ -1,4 +1,5 @@
 #include "tools/pressure_drop/frmPressureDrop.h"
+#include "frame/field_keys.h"
 
 #include "frame/user_interface.h"
 #include "tools/pressure_drop/pressure_drop_model.h"
@@ -519,20 +520,7 @@ bool frmPressureDrop::filterKey(QLineEdit* field, QKeyEvent* key)
 {
     const QString name = field->objectName();
     const bool numeric = name.startsWith("txtData(") || name.startsWith("txtDisplay(");
-    if (!numeric || key->text().isEmpty() || !key->text().at(0).isPrint())
-        return false;
-    const QChar c = key->text().at(0);
-    if (c.isDigit())
-        return false;
-    const bool minusAllowed = name.startsWith("txtData(");
-    QString rest = field->text();
-    if (field->hasSelectedText())
-        rest.remove(field->selectionStart(), field->selectedText().size());
-    if ((c == '.' || c == ',') && !rest.contains(c))
-        return false;
-    if (c == '-' && minusAllowed && !rest.contains('-'))
-        return false;
-    return true; // swallowed
+    return numeric && numericKeyRefused(*field, *key, name.startsWith("txtData("));
 }
 
 bool frmPressureDrop::eventFilter(QObject* watched, QEvent* event)

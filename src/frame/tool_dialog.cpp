@@ -1,0 +1,144 @@
+#include "frame/tool_dialog.h"
+
+#include "frame/field_keys.h"
+
+#include "frame/user_interface.h"
+#include "units/basLoadUnits.h"
+
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTimer>
+
+namespace kestrova {
+
+ToolDialog::ToolDialog(FormModel& model, UserInterface& ui, const QString& name, const QString& title, QWidget* parent)
+    : QDialog(parent), ui_(ui), model_(model)
+{
+    setObjectName(name);
+    setWindowTitle(title);
+    connect(&model_, &FormModel::changed, this, &ToolDialog::update);
+}
+
+void ToolDialog::runModal()
+{
+    model_.closeRequested = false;
+    exec();
+}
+
+void ToolDialog::showEvent(QShowEvent* event)
+{
+    render();
+    QDialog::showEvent(event);
+}
+
+void ToolDialog::update()
+{
+    render();
+    if (model_.closeRequested) {
+        model_.closeRequested = false;
+        accept();
+    }
+}
+
+void ToolDialog::reject()
+{
+    if (onCancel)
+        onCancel(); // the model asks to close; update() accepts
+    if (isVisible())
+        QDialog::reject();
+}
+
+void ToolDialog::setText(QLineEdit* edit, const std::string& text)
+{
+    const QString shown = QString::fromStdString(text);
+    if (edit->text() != shown && !(edit->hasFocus() && edit->isModified()))
+        edit->setText(shown);
+}
+
+QLineEdit* ToolDialog::field(const QString& name, const std::function<void(const QString&)>& commit, bool numeric,
+                             bool minus)
+{
+    auto* edit = new QLineEdit(this);
+    edit->setObjectName(name);
+    edit->setAlignment(numeric ? Qt::AlignRight : Qt::AlignLeft);
+    edit->setMinimumWidth(100);
+    edit->installEventFilter(this);
+    commits_[edit] = commit;
+    filters_[edit] = {numeric, minus};
+    return edit;
+}
+
+QLineEdit* ToolDialog::output(const QString& name)
+{
+    auto* edit = new QLineEdit(this);
+    edit->setObjectName(name);
+    edit->setAlignment(Qt::AlignRight);
+    edit->setReadOnly(true);
+    edit->setMinimumWidth(100);
+    QPalette p = edit->palette();
+    p.setColor(QPalette::Base, QColor(192, 192, 255));
+    edit->setPalette(p);
+    return edit;
+}
+
+QComboBox* ToolDialog::unitList(const QString& name, const char* tag, const std::function<void(int)>& choose)
+{
+    auto* list = new QComboBox(this);
+    list->setObjectName(name);
+    for (const std::string& unit : kestrova::unitList(tag))
+        list->addItem(QString::fromStdString(unit));
+    list->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    connect(list, &QComboBox::activated, this, choose);
+    return list;
+}
+
+QPushButton* ToolDialog::button(const QString& name, const QString& caption, const std::function<void()>& click)
+{
+    auto* b = new QPushButton(caption, this);
+    b->setObjectName(name);
+    b->setAutoDefault(false);
+    connect(b, &QPushButton::clicked, this, click);
+    return b;
+}
+
+void ToolDialog::status(QWidget* widget, const QString& text)
+{
+    statusTexts_[widget] = text;
+    widget->installEventFilter(this);
+}
+
+bool ToolDialog::eventFilter(QObject* watched, QEvent* event)
+{
+    auto* edit = qobject_cast<QLineEdit*>(watched);
+    switch (event->type()) {
+    case QEvent::FocusIn:
+        if (edit && !edit->isReadOnly())
+            QTimer::singleShot(0, edit, &QLineEdit::selectAll);
+        break;
+    case QEvent::FocusOut:
+        if (edit && commits_.count(edit)) {
+            edit->setModified(false);
+            commits_[edit](edit->text());
+        }
+        break;
+    case QEvent::KeyPress: {
+        auto* key = static_cast<QKeyEvent*>(event);
+        if (edit && filters_.count(edit) && filters_[edit].first && numericKeyRefused(*edit, *key, filters_[edit].second))
+            return true;
+        break;
+    }
+    case QEvent::Enter: {
+        const auto found = statusTexts_.find(watched);
+        if (found != statusTexts_.end())
+            ui_.setStatusText(found->second.toStdString());
+        break;
+    }
+    default:
+        break;
+    }
+    return QDialog::eventFilter(watched, event);
+}
+
+} // namespace kestrova
