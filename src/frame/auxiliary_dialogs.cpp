@@ -1,9 +1,14 @@
 #include "frame/auxiliary_dialogs.h"
 
+#include "frame/company_info_model.h"
 #include "frame/settings_store.h"
 #include "frame/user_interface.h"
 
 #include <QCheckBox>
+#include <QFormLayout>
+#include <QLineEdit>
+#include <QProcess>
+#include <QStandardPaths>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -31,21 +36,127 @@ QPixmap splashPicture()
     title.setPointSize(30);
     title.setBold(true);
     p.setFont(title);
-    p.drawText(QRect(0, 50, 480, 60), Qt::AlignCenter, QCoreApplication::applicationName());
+    p.drawText(QRect(0, 50, 480, 60), Qt::AlignCenter, ApplicationTexts::title());
     QFont body = p.font();
     body.setPointSize(11);
     body.setBold(false);
     p.setFont(body);
-    p.drawText(QRect(0, 110, 480, 24), Qt::AlignCenter, "Hydraulic Calculation Workbench");
-    p.drawText(QRect(0, 136, 480, 24), Qt::AlignCenter, "Version " + QCoreApplication::applicationVersion());
+    p.drawText(QRect(0, 110, 480, 24), Qt::AlignCenter, ApplicationTexts::description());
+    p.drawText(QRect(0, 136, 480, 24), Qt::AlignCenter, ApplicationTexts::version());
     return picture;
 }
 
 } // namespace
 
+QString ApplicationTexts::title()
+{
+    return QCoreApplication::applicationName();
+}
+
+QString ApplicationTexts::version()
+{
+    return "Version " + QCoreApplication::applicationVersion();
+}
+
+QString ApplicationTexts::description()
+{
+    return "Hydraulic Calculation Workbench";
+}
+
+QString ApplicationTexts::trademarks()
+{
+    return "Kestrova is an engineering aid; its results must be checked by a qualified engineer.";
+}
+
 frmSplash::frmSplash() : QSplashScreen(splashPicture())
 {
     setObjectName("frmSplash");
+}
+
+frmAbout::frmAbout(UserInterface& ui, QWidget* parent) : QDialog(parent), ui_(ui)
+{
+    setObjectName("frmAbout");
+    setWindowTitle("About " + ApplicationTexts::title());
+    const auto label = [this](const char* name, const QString& text) {
+        auto* l = new QLabel(text, this);
+        l->setObjectName(name);
+        l->setWordWrap(true);
+        return l;
+    };
+    QLabel* title = label("lblTitle", ApplicationTexts::title());
+    QFont big = title->font();
+    big.setPointSize(big.pointSize() * 2);
+    big.setBold(true);
+    title->setFont(big);
+    auto* ok = new QPushButton("OK", this);
+    ok->setObjectName("cmdOK");
+    ok->setDefault(true);
+    connect(ok, &QPushButton::clicked, this, &QDialog::accept);
+    auto* sysInfo = new QPushButton("&System Info...", this);
+    sysInfo->setObjectName("cmdSysInfo");
+    connect(sysInfo, &QPushButton::clicked, this, &frmAbout::StartSysInfo);
+    auto* buttons = new QVBoxLayout;
+    buttons->addWidget(ok);
+    buttons->addWidget(sysInfo);
+    buttons->addStretch();
+    auto* texts = new QVBoxLayout;
+    texts->addWidget(title);
+    texts->addWidget(label("lblVersion", ApplicationTexts::version()));
+    texts->addWidget(label("lblDescription", ApplicationTexts::description()));
+    texts->addStretch();
+    texts->addWidget(label("lblDisclaimer", ApplicationTexts::trademarks()));
+    auto* layout = new QHBoxLayout(this);
+    layout->addLayout(texts, 1);
+    layout->addLayout(buttons);
+    resize(460, 220);
+}
+
+// Starts the desktop's system information program, where one is installed.
+void frmAbout::StartSysInfo()
+{
+    for (const char* program : {"hardinfo", "kinfocenter", "hardinfo2"}) {
+        const QString path = QStandardPaths::findExecutable(program);
+        if (!path.isEmpty() && QProcess::startDetached(path, {}))
+            return;
+    }
+    ui_.ask("Kestrova", "System Information Is Unavailable At This Time", MessageIcon::Information, MessageButtons::Ok,
+            MessageAnswer::Ok);
+}
+
+frmCompanyInfo::frmCompanyInfo(CompanyInfoModel& model, UserInterface& ui, QWidget* parent)
+    : QDialog(parent), model_(model), ui_(ui)
+{
+    setObjectName("frmCompanyInfo");
+    setWindowTitle("Company Information");
+    setAttribute(Qt::WA_Hover);
+    auto* form = new QFormLayout;
+    for (size_t i = 0; i < CompanyInfoModel::fields().size(); ++i) {
+        const CompanyInfoModel::Field& f = CompanyInfoModel::fields()[i];
+        auto* edit = new QLineEdit(QString::fromStdString(model_.text[i]), this);
+        edit->setObjectName(f.control);
+        edit->setMinimumWidth(280);
+        connect(edit, &QLineEdit::textChanged, this, [this, i](const QString& text) { model_.text[i] = text.toStdString(); });
+        form->addRow(f.label, edit);
+    }
+    auto* close = new QPushButton("&Close", this);
+    close->setObjectName("cmdClose");
+    connect(close, &QPushButton::clicked, this, &QDialog::accept);
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(form);
+    layout->addWidget(close, 0, Qt::AlignRight);
+}
+
+void frmCompanyInfo::done(int result)
+{
+    if (model_.Form_QueryUnload())
+        QDialog::done(result);
+}
+
+bool frmCompanyInfo::event(QEvent* event)
+{
+    if (event->type() == QEvent::HoverMove)
+        ui_.setStatusText("Enter Company Information");
+    return QDialog::event(event);
 }
 
 frmDisclaimer::frmDisclaimer(UserInterface& ui, QWidget* parent) : QDialog(parent)

@@ -1,22 +1,57 @@
 #pragma once
-// The small forms round the frame: the splash, the disclaimer that must be
-// agreed to, and the disclaimer text itself.
+// The small forms round the frame: the splash, the about box, the company
+// block, the disclaimer that must be agreed to, and the disclaimer text.
 
 #include <QDialog>
 #include <QSplashScreen>
 
 class QCheckBox;
+class QLineEdit;
 class QPlainTextEdit;
 
 namespace kestrova {
 
+class CompanyInfoModel;
 class UserInterface;
 class SettingsStore;
+
+// The application's own texts, shown alike by the splash and the about box.
+struct ApplicationTexts {
+    static QString title();
+    static QString version(); // "Version " and major.minor.revision
+    static QString description();
+    static QString trademarks();
+};
 
 // frmSplash: the application's name, version and description.
 class frmSplash : public QSplashScreen {
 public:
     frmSplash();
+};
+
+// frmAbout: the application's texts, OK and System Info.
+class frmAbout : public QDialog {
+public:
+    frmAbout(UserInterface& ui, QWidget* parent);
+
+private:
+    void StartSysInfo();
+    UserInterface& ui_;
+};
+
+// frmCompanyInfo: the six texts of the company block; closing asks whether
+// to save them.
+class frmCompanyInfo : public QDialog {
+public:
+    frmCompanyInfo(CompanyInfoModel& model, UserInterface& ui, QWidget* parent);
+
+protected:
+    void done(int result) override; // every way of closing goes through the question
+    bool event(QEvent* event) override;
+
+private:
+    CompanyInfoModel& model_;
+    UserInterface& ui_;
 };
 
 // frmDisclaimer: the text of "disclaimer.txt" beside the program.

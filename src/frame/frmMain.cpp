@@ -1,6 +1,8 @@
 #include "frame/frmMain.h"
 
 #include "frame/auxiliary_dialogs.h"
+#include "frame/basPrint.h"
+#include "frame/company_info_model.h"
 #include "frame/frmUnitOptions.h"
 #include "frame/settings_store.h"
 #include "tools/pressure_drop/frmPressureDrop.h"
@@ -20,7 +22,11 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
-#include <QMessageBox>
+#include <QPageSetupDialog>
+#include <QPainter>
+#include <QPrintDialog>
+#include <QPrinterInfo>
+#include <QEventLoop>
 #include <QProcess>
 #include <QScreen>
 #include <QGuiApplication>
@@ -519,14 +525,51 @@ void frmMain::mnuFilePrintDataSheet_Click()
     model_.mnuFilePrintDataSheet_Click(activeDocument());
 }
 
+// The print dialog may offer printing to a file only where no printer is
+// installed, so that a machine without one can still put a page on paper
+// as PDF.
+static void offerPrinting(QPrintDialog& dialog)
+{
+    dialog.setOption(QAbstractPrintDialog::PrintToFile, QPrinterInfo::availablePrinters().isEmpty());
+}
+
 void frmMain::mnuFilePrintScreen_Click()
 {
-    ui_.toolNotAvailable("Screen Shot printing");
+    QMdiSubWindow* active = mdi_->activeSubWindow();
+    if (!active || !active->widget())
+        return;
+    const QPixmap picture = captureForm(*active->widget()); // before the dialog can stand in it
+    QPrintDialog dialog(&printer_, this);
+    dialog.setWindowTitle("Print");
+    offerPrinting(dialog);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    const int copies = std::max(printer_.copyCount(), 1);
+    printer_.setCopyCount(1);
+    ui_.setBusyPointer(true);
+    QEventLoop repaint; // let the dialog's place on screen be repainted
+    QTimer::singleShot(200, &repaint, &QEventLoop::quit);
+    repaint.exec();
+    const int screenDpi = active->widget()->logicalDpiX();
+    for (int copy = 0; copy < copies; ++copy) {
+        QPainter painter;
+        if (!painter.begin(&printer_)) { // each copy is a print job of its own
+            ui_.setBusyPointer(false);
+            ui_.ask("Kestrova", "The printer could not be started.", MessageIcon::Stop, MessageButtons::Ok,
+                    MessageAnswer::Ok);
+            return;
+        }
+        printPicture(painter, printer_, picture, screenDpi);
+        painter.end();
+    }
+    ui_.setBusyPointer(false);
+    active->showMaximized();
 }
 
 void frmMain::mnuFilePrintSetup_Click()
 {
-    ui_.toolNotAvailable("Print Setup");
+    QPageSetupDialog dialog(&printer_, this);
+    dialog.exec(); // nothing is stored: the choice stays with the printer for the run
 }
 
 void frmMain::mnuFileLocateDataBase_Click()
@@ -542,7 +585,10 @@ void frmMain::mnuFileLocateDataBase_Click()
 
 void frmMain::mnuEditCompanyInfo_Click()
 {
-    ui_.toolNotAvailable("Company Info");
+    CompanyInfoModel model(ui_, store_);
+    model.Form_Load();
+    frmCompanyInfo dialog(model, ui_, this);
+    dialog.exec();
 }
 
 void frmMain::mnuFileExit_Click()
@@ -605,10 +651,8 @@ void frmMain::mnuHelpContents_Click()
 
 void frmMain::mnuHelpAbout_Click()
 {
-    QMessageBox::about(this, "About Kestrova",
-                       QString("<b>Kestrova</b><br>Version %1<br><br>Hydraulic calculation workbench for pipes, "
-                               "ducts, pumps and orifice plates.")
-                           .arg(QCoreApplication::applicationVersion()));
+    frmAbout dialog(ui_, this);
+    dialog.exec();
 }
 
 bool frmMain::eventFilter(QObject* watched, QEvent* event)

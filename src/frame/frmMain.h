@@ -7,6 +7,7 @@
 #include "frame/gui_user_interface.h"
 
 #include <QMainWindow>
+#include <QPrinter>
 #include <QPointer>
 
 #include <map>
@@ -106,6 +107,7 @@ private:
     std::unique_ptr<PressureDropModel> pressureDrop_;
     QPointer<QMdiSubWindow> mapWindows_[2];
     bool closing_ = false;
+    QPrinter printer_; // the printer set-up chosen stays for the run
 };
 
 } // namespace kestrova

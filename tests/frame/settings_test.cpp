@@ -1,5 +1,7 @@
+#include "frame/company_info_model.h"
 #include "frame/global_units.h"
 #include "frame/recent_files.h"
+#include "frame/scripted_user_interface.h"
 #include "frame/settings_store.h"
 
 #include <QTemporaryDir>
@@ -85,4 +87,36 @@ TEST_F(SettingsTest, LoadingStopsAtTheFirstEmptyTitle)
     ASSERT_EQ(recent.entries().size(), 1u);
     recent.save(store); // places beyond the list are removed
     EXPECT_EQ(store.get("MRU", "Title3", "gone"), "gone");
+}
+
+TEST_F(SettingsTest, CompanyBlockIsSavedOnlyWhenTheUserSaysYes)
+{
+    store.save("Settings", "City", "Leeds");
+    ScriptedUserInterface ui;
+    CompanyInfoModel form(ui, store);
+    form.Form_Load();
+    EXPECT_EQ(form.text[2], "Leeds");
+    EXPECT_EQ(form.text[0], "");
+    form.text[0] = "Hydro Works";
+    form.text[4] = "LS1 4AP";
+
+    ui.answers = {MessageAnswer::Cancel}; // the form stays open, nothing written
+    EXPECT_FALSE(form.Form_QueryUnload());
+    ASSERT_EQ(ui.messages.size(), 1u);
+    EXPECT_EQ(ui.messages[0].title, "Company Information");
+    EXPECT_EQ(ui.messages[0].text, "Save changes?");
+    EXPECT_EQ(ui.messages[0].buttons, MessageButtons::YesNoCancel);
+    EXPECT_EQ(store.get("Settings", "Company", ""), "");
+
+    ui.answers = {MessageAnswer::No};
+    EXPECT_TRUE(form.Form_QueryUnload());
+    EXPECT_EQ(store.get("Settings", "Company", ""), "");
+
+    ui.answers = {MessageAnswer::Yes};
+    EXPECT_TRUE(form.Form_QueryUnload());
+    SettingsStore again(dir.filePath("Kestrova.ini"));
+    EXPECT_EQ(again.get("Settings", "Company", ""), "Hydro Works");
+    EXPECT_EQ(again.get("Settings", "Zip", ""), "LS1 4AP");
+    EXPECT_EQ(again.get("Settings", "City", ""), "Leeds");
+    EXPECT_EQ(again.get("Settings", "Country", "unset"), ""); // every key written, empty ones too
 }

@@ -2,6 +2,9 @@
 // controls by their program names, typing into fields, unit lists, options,
 // menu enabling and saving through the frame.
 
+#include "frame/auxiliary_dialogs.h"
+#include "frame/basPrint.h"
+#include "frame/company_info_model.h"
 #include "frame/frmMain.h"
 #include "frame/scripted_user_interface.h"
 #include "tools/piping/piping_dialogs.h"
@@ -13,11 +16,14 @@
 #include <QComboBox>
 #include <QFileInfo>
 #include <QGroupBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QRadioButton>
 #include <QListWidget>
+#include <QPainter>
+#include <QPrinter>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QTemporaryDir>
@@ -180,11 +186,72 @@ private slots:
     }
 };
 
+class PrintingTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void pictureIsCentredAndShrunkToThePage()
+    {
+        QCOMPARE(centredPicture(QSize(1000, 800), QSize(600, 400)), QRect(200, 200, 600, 400));
+        // larger than the page: scaled down, proportions kept, still centred
+        QCOMPARE(centredPicture(QSize(1000, 800), QSize(2000, 1000)), QRect(0, 150, 1000, 500));
+        QCOMPARE(centredPicture(QSize(1000, 800), QSize(500, 1600)), QRect(375, 0, 250, 800));
+    }
+
+    void screenShotOfAFormGoesToPaper()
+    {
+        QTemporaryDir dir;
+        QWidget form;
+        form.resize(300, 200);
+        form.setStyleSheet("background: rgb(0, 0, 255);");
+        const QPixmap picture = captureForm(form);
+        QCOMPARE(picture.size(), QSize(300, 200));
+        QCOMPARE(picture.toImage().pixelColor(150, 100), QColor(0, 0, 255));
+
+        QPrinter printer(QPrinter::HighResolution);
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(dir.filePath("shot.pdf"));
+        QPainter painter(&printer);
+        printPicture(painter, printer, picture, 96);
+        QVERIFY(painter.end());
+        QVERIFY(QFileInfo(dir.filePath("shot.pdf")).size() > 1000);
+    }
+
+    void companyInfoClosesOnlyPastItsQuestion()
+    {
+        QTemporaryDir dir;
+        SettingsStore store(dir.filePath("Kestrova.ini"));
+        ScriptedUserInterface ui;
+        CompanyInfoModel model(ui, store);
+        model.Form_Load();
+        frmCompanyInfo dialog(model, ui, nullptr);
+        dialog.show();
+        QTest::keyClicks(dialog.findChild<QLineEdit*>("txtCompany"), "Hydro Works");
+        ui.answers = {MessageAnswer::Cancel};
+        dialog.reject(); // Escape or the window's close button
+        QVERIFY(dialog.isVisible());
+        ui.answers = {MessageAnswer::Yes};
+        dialog.findChild<QPushButton*>("cmdClose")->click();
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(store.get("Settings", "Company", ""), std::string("Hydro Works"));
+    }
+
+    void aboutBoxShowsTheVersion()
+    {
+        QCoreApplication::setApplicationVersion("1.2.3");
+        ScriptedUserInterface ui;
+        frmAbout about(ui, nullptr);
+        QCOMPARE(about.findChild<QLabel*>("lblVersion")->text(), QString("Version 1.2.3"));
+        QCOMPARE(about.findChild<QLabel*>("lblTitle")->text(), QCoreApplication::applicationName());
+    }
+};
+
 int main(int argc, char** argv)
 {
     QApplication app(argc, argv);
     FrameWidgetsTest frame;
     DialogWidgetsTest dialogs;
-    return QTest::qExec(&frame, argc, argv) | QTest::qExec(&dialogs, argc, argv);
+    PrintingTest printing;
+    return QTest::qExec(&frame, argc, argv) | QTest::qExec(&dialogs, argc, argv) | QTest::qExec(&printing, argc, argv);
 }
 #include "frame_widgets_test.moc"
