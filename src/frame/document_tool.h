@@ -7,6 +7,8 @@
 
 namespace kestrova {
 
+class DataSheetPrinter;
+
 class DocumentTool {
 public:
     virtual ~DocumentTool() = default;
@@ -14,7 +16,7 @@ public:
     virtual void setStrFileName(const std::string& path) = 0;
     // "Open", "Save" or "Save As"; false when the file was refused or not written.
     virtual bool OpenSaveData(const std::string& operation) = 0;
-    virtual void PrintDataSheet() = 0;
+    virtual void PrintDataSheet(const DataSheetPrinter& printer) = 0;
     virtual std::string toolTitle() const = 0;
     virtual std::int16_t fileKind() const = 0;
 };

@@ -1,18 +1,18 @@
 #include "frame/frame_model.h"
 
+#include "datasheets/data_sheet.h"
 #include "frame/document_tool.h"
 #include "frame/global_units.h"
 #include "frame/project_file.h"
 #include "frame/settings_store.h"
+#include "frame/sqlite_session.h"
 #include "frame/user_interface.h"
 #include "numeric/field_text.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
-#include <QSqlDatabase>
 #include <QSqlQuery>
-#include <QUuid>
 
 namespace kestrova {
 
@@ -31,18 +31,10 @@ bool isValidDataBaseFile(const std::string& path)
     if (!info.isFile() || !info.isReadable())
         return false;
     bool valid = false;
-    const QString connection = "file-test-" + QUuid::createUuid().toString();
-    {
-        QSqlDatabase db = QSqlDatabase::addDatabase("QSQLITE", connection);
-        db.setDatabaseName(info.absoluteFilePath());
-        db.setConnectOptions("QSQLITE_OPEN_READONLY");
-        if (db.open()) {
-            QSqlQuery query(db);
-            valid = query.exec("SELECT count(*) FROM sqlite_master") && query.next();
-            db.close();
-        }
-    }
-    QSqlDatabase::removeDatabase(connection);
+    withSqlite(info.absoluteFilePath(), SqliteAccess::ReadOnly, [&valid](QSqlDatabase& db) {
+        QSqlQuery query(db);
+        valid = query.exec("SELECT count(*) FROM sqlite_master") && query.next();
+    });
     return valid;
 }
 
@@ -182,7 +174,7 @@ void FrameModel::mnuFilePrintDataSheet_Click(DocumentTool* active)
 {
     ui_.setStatusText("Print Data Sheet");
     if (active)
-        active->PrintDataSheet();
+        active->PrintDataSheet(DataSheetPrinter(ui_, store_, QCoreApplication::applicationDirPath()));
 }
 
 } // namespace kestrova

@@ -36,6 +36,7 @@ public:
     UserInterface& userInterface() { return ui_; }
     FrameModel& model() { return model_; }
     SettingsStore& settings() { return store_; }
+    QPrinter& printer() { return printer_; }
     QMdiArea* mdiArea() const { return mdi_; }
     QAction* action(const QString& name) const; // by control name, e.g. "mnuFileSave"
     QAction* toolbarButton(const QString& key) const;

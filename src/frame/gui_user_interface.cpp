@@ -1,5 +1,6 @@
 #include "frame/gui_user_interface.h"
 
+#include "datasheets/data_sheet.h"
 #include "frame/frmMain.h"
 #include "tools/flow/flow_dialogs.h"
 #include "tools/piping/minor_loss_store.h"
@@ -11,6 +12,8 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QPrintPreviewDialog>
+#include <QTextDocument>
 
 namespace kestrova {
 
@@ -57,8 +60,9 @@ MessageAnswer GuiUserInterface::ask(const std::string& title, const std::string&
     const bool wasBusy = busy_;
     if (wasBusy)
         setBusyPointer(false);
-    QMessageBox box(boxIcon(icon), QString::fromStdString(title), QString::fromStdString(text), boxButtons(buttons),
-                    &frame_);
+    // Lines joined by carriage returns alone break as lines on screen too.
+    const QString shown = QString::fromStdString(text).replace("\r\n", "\n").replace('\r', '\n');
+    QMessageBox box(boxIcon(icon), QString::fromStdString(title), shown, boxButtons(buttons), &frame_);
     box.setDefaultButton(boxButton(defaultAnswer));
     const int chosen = box.exec();
     if (wasBusy)
@@ -272,6 +276,34 @@ void GuiUserInterface::showTool(const std::string& menuName)
 void GuiUserInterface::showRegimeMap(const std::string& orientation)
 {
     frame_.showRegimeMap(orientation == "Horizontal");
+}
+
+int GuiUserInterface::runReport(const std::string& title, const std::string& reportFile, const std::string& stagingPath,
+                                const std::string& table)
+{
+    const auto layout = readReportTemplate(QString::fromStdString(reportFile));
+    if (!layout)
+        return 1;
+    const auto row = stagedRow(QString::fromStdString(stagingPath), table);
+    if (!row)
+        return 2;
+    const auto html = dataSheetHtml(*layout, *row);
+    if (!html)
+        return 3;
+    QTextDocument sheet;
+    sheet.setHtml(*html);
+    QPrintPreviewDialog preview(&frame_.printer(), &frame_);
+    preview.setWindowTitle(QString::fromStdString(title));
+    QObject::connect(&preview, &QPrintPreviewDialog::paintRequested, &preview,
+                     [&sheet](QPrinter* printer) { sheet.print(printer); });
+    const bool wasBusy = busy_;
+    if (wasBusy)
+        setBusyPointer(false);
+    preview.resize(frame_.size() * 0.8);
+    preview.exec();
+    if (wasBusy)
+        setBusyPointer(true);
+    return 0;
 }
 
 } // namespace kestrova

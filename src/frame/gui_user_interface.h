@@ -36,6 +36,10 @@ public:
     Single GetGasDensity(Single temperature, Single pressure) override;
     void GetPhysicalProperties(FluidKind fluid, Single temperature) override;
     void showRegimeMap(const std::string& orientation) override;
+    // Lays the data sheet out from its template and the staged row, in a
+    // print preview from which it is printed or saved as PDF.
+    int runReport(const std::string& title, const std::string& reportFile, const std::string& stagingPath,
+                  const std::string& table) override;
 
     void toolNotAvailable(const std::string& tool);
     // A dialog tool opened by itself from the Tools menu, by its menu entry's name.

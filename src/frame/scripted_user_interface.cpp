@@ -58,4 +58,11 @@ void ScriptedUserInterface::GetPhysicalProperties(FluidKind, Single)
     propertiesCancelled() = !applied;
 }
 
+int ScriptedUserInterface::runReport(const std::string& title, const std::string& reportFile,
+                                     const std::string& stagingPath, const std::string& table)
+{
+    reports.push_back({title, reportFile, table, stagedRow(QString::fromStdString(stagingPath), table)});
+    return reportResult;
+}
+
 } // namespace kestrova

@@ -3,9 +3,11 @@
 // text, and answers questions and dialog tools from a script prepared in
 // advance. Tests and kestrova-calc use it.
 
+#include "datasheets/data_sheet.h"
 #include "frame/user_interface.h"
 
 #include <deque>
+#include <optional>
 #include <map>
 #include <string>
 #include <vector>
@@ -39,6 +41,9 @@ public:
     Single GetGasDensity(Single, Single) override { return next(densityAnswers); }
     void GetPhysicalProperties(FluidKind fluid, Single temperature) override;
     void showRegimeMap(const std::string& orientation) override { regimeMapsShown.push_back(orientation); }
+    // Keeps the staged row as the report found it, and answers `reportResult`.
+    int runReport(const std::string& title, const std::string& reportFile, const std::string& stagingPath,
+                  const std::string& table) override;
 
     // What the user will answer, in order; an empty script answers the
     // default button, and a dialog tool as a cancel.
@@ -58,6 +63,12 @@ public:
     std::vector<int> flowFluids;
     std::vector<std::string> regimeMapsShown;
     int kValueCalls = 0;
+    struct ReportRun {
+        std::string title, reportFile, table;
+        std::optional<DataSheetColumns> row;
+    };
+    std::vector<ReportRun> reports;
+    int reportResult = 0;
 
 private:
     static Single next(std::deque<Single>& script) { return nextOr(script, 0.0); }

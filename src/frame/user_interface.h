@@ -49,6 +49,10 @@ public:
     virtual void GetPhysicalProperties(FluidKind fluid, Single temperature) = 0;
     // Shows a two-phase flow regime map form: "Horizontal" or "Vertical Up".
     virtual void showRegimeMap(const std::string& orientation) = 0;
+    // The report engine: runs the report template over the last row of a
+    // staging table under a window title; 0 when all went well.
+    virtual int runReport(const std::string& title, const std::string& reportFile, const std::string& stagingPath,
+                          const std::string& table) = 0;
 };
 
 } // namespace kestrova

@@ -22,7 +22,7 @@ struct RecordingTool : DocumentTool {
         operations.push_back(operation);
         return true;
     }
-    void PrintDataSheet() override { ++dataSheets; }
+    void PrintDataSheet(const DataSheetPrinter&) override { ++dataSheets; }
     std::string toolTitle() const override { return "Pressure Drop"; }
     std::int16_t fileKind() const override { return 2; }
     std::string fileName;

@@ -1,11 +1,11 @@
 #include "tools/piping/pipe_data.h"
 
+#include "frame/sqlite_session.h"
+
 #include <QFile>
 #include <QFileInfo>
-#include <QSqlDatabase>
 #include <QSqlQuery>
 #include <QSqlRecord>
-#include <QUuid>
 #include <QtEndian>
 
 #include <cmath>
@@ -20,19 +20,8 @@ void withDataBase(const QString& path, const std::function<void(QSqlDatabase&)>&
 {
     if (!QFileInfo(path).isFile())
         throw DataFileError("The data base " + path.toStdString() + " cannot be found.");
-    const QString connection = "pipe-data-" + QUuid::createUuid().toString();
-    {
-        QSqlDatabase db = QSqlDatabase::addDatabase("QSQLITE", connection);
-        db.setDatabaseName(path);
-        db.setConnectOptions("QSQLITE_OPEN_READONLY");
-        if (!db.open()) {
-            QSqlDatabase::removeDatabase(connection);
-            throw DataFileError("The data base " + path.toStdString() + " cannot be opened.");
-        }
-        work(db);
-        db.close();
-    }
-    QSqlDatabase::removeDatabase(connection);
+    if (!withSqlite(path, SqliteAccess::ReadOnly, work))
+        throw DataFileError("The data base " + path.toStdString() + " cannot be opened.");
 }
 
 } // namespace

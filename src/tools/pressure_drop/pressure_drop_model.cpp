@@ -582,10 +582,4 @@ void PressureDropModel::closeDocument()
     ui_.setToolbarButtonEnabled("Print", false);
 }
 
-void PressureDropModel::PrintDataSheet()
-{
-    ui_.ask(kTitle, "Data sheets are not available in this version of Kestrova.", MessageIcon::Information,
-            MessageButtons::Ok, MessageAnswer::Ok);
-}
-
 } // namespace kestrova

@@ -87,7 +87,7 @@ public:
     std::string strFileName() const override { return fileName_; }
     void setStrFileName(const std::string& path) override { fileName_ = path; }
     bool OpenSaveData(const std::string& operation) override;
-    void PrintDataSheet() override;
+    void PrintDataSheet(const DataSheetPrinter& printer) override; // the data sheet of the tab in front
     std::string toolTitle() const override { return kTitle; }
     std::int16_t fileKind() const override { return 2; }
 

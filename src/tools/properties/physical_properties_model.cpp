@@ -1,5 +1,7 @@
 #include "tools/properties/physical_properties_model.h"
 
+#include "frame/sqlite_session.h"
+
 #include "frame/global_units.h"
 #include "numeric/display_mask.h"
 #include "numeric/field_text.h"
@@ -8,9 +10,7 @@
 #include "units/basLoadUnits.h"
 
 #include <QFileInfo>
-#include <QSqlDatabase>
 #include <QSqlQuery>
-#include <QUuid>
 
 #include <stdexcept>
 
@@ -56,44 +56,36 @@ std::vector<Compound> readCompounds(const QString& path)
     if (!QFileInfo(path).isFile())
         throw std::runtime_error("The physical properties data base cannot be found.");
     std::vector<Compound> compounds;
-    const QString connection = "compounds-" + QUuid::createUuid().toString();
     bool ok = false;
-    {
-        QSqlDatabase db = QSqlDatabase::addDatabase("QSQLITE", connection);
-        db.setDatabaseName(path);
-        db.setConnectOptions("QSQLITE_OPEN_READONLY");
-        if (db.open()) {
-            QSqlQuery query(db);
-            ok = query.exec("SELECT * FROM Compounds ORDER BY ID");
-            while (ok && query.next()) {
-                Compound c;
-                c.name = query.value(1).toString().toStdString();
-                c.molecularWeight = numberOf(query.value(4));
-                c.criticalTemperature = numberOf(query.value(5));
-                c.criticalPressure = numberOf(query.value(6));
-                c.acentricFactor = numberOf(query.value(7));
-                for (int row = 0; row < 6; ++row) {
-                    const int first = kBlockFirstField[row];
-                    Compound::Block& block = c.blocks[static_cast<size_t>(row)];
-                    CorrelationCoefficients coefficients{};
-                    bool complete = true;
-                    for (int k = 0; k < 5; ++k) {
-                        const auto number = numberOf(query.value(first + k));
-                        complete = complete && number.has_value();
-                        coefficients[static_cast<size_t>(k)] = number.value_or(0);
-                    }
-                    if (complete)
-                        block.coefficients = coefficients;
-                    block.lower = numberOf(query.value(first + 5)).value_or(0);
-                    block.upper = numberOf(query.value(first + 6)).value_or(0);
-                    block.equation = static_cast<std::int16_t>(numberOf(query.value(first + 7)).value_or(0));
+    withSqlite(path, SqliteAccess::ReadOnly, [&](QSqlDatabase& db) {
+        QSqlQuery query(db);
+        ok = query.exec("SELECT * FROM Compounds ORDER BY ID");
+        while (ok && query.next()) {
+            Compound c;
+            c.name = query.value(1).toString().toStdString();
+            c.molecularWeight = numberOf(query.value(4));
+            c.criticalTemperature = numberOf(query.value(5));
+            c.criticalPressure = numberOf(query.value(6));
+            c.acentricFactor = numberOf(query.value(7));
+            for (int row = 0; row < 6; ++row) {
+                const int first = kBlockFirstField[row];
+                Compound::Block& block = c.blocks[static_cast<size_t>(row)];
+                CorrelationCoefficients coefficients{};
+                bool complete = true;
+                for (int k = 0; k < 5; ++k) {
+                    const auto number = numberOf(query.value(first + k));
+                    complete = complete && number.has_value();
+                    coefficients[static_cast<size_t>(k)] = number.value_or(0);
                 }
-                compounds.push_back(std::move(c));
+                if (complete)
+                    block.coefficients = coefficients;
+                block.lower = numberOf(query.value(first + 5)).value_or(0);
+                block.upper = numberOf(query.value(first + 6)).value_or(0);
+                block.equation = static_cast<std::int16_t>(numberOf(query.value(first + 7)).value_or(0));
             }
-            db.close();
+            compounds.push_back(std::move(c));
         }
-    }
-    QSqlDatabase::removeDatabase(connection);
+    });
     if (!ok)
         throw std::runtime_error("The physical properties data base cannot be read.");
     return compounds;

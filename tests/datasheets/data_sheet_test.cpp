@@ -1,0 +1,170 @@
+// Data sheets of the pressure drop tool: the staged row is what the screen
+// shows, the report finds it, and the staging table is empty afterwards.
+
+#include "datasheets/data_sheet.h"
+#include "frame/settings_store.h"
+#include "tools/pressure_drop/pressure_drop_fixture.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+using namespace kestrova;
+
+namespace {
+
+std::string column(const DataSheetColumns& row, const std::string& name)
+{
+    for (const auto& entry : row)
+        if (entry.first == name)
+            return entry.second;
+    ADD_FAILURE() << "no column " << name;
+    return {};
+}
+
+} // namespace
+
+class DataSheetTest : public PressureDropTest {
+protected:
+    DataSheetTest() : store(dir.filePath("Kestrova.ini")), printer(ui, store, dir.path())
+    {
+        store.save("Settings", "Company", "Hydro Works");
+        store.save("Settings", "City", "Leeds");
+    }
+
+    // Prints the tab in front and returns the row the report found.
+    DataSheetColumns print()
+    {
+        tool.PrintDataSheet(printer);
+        EXPECT_FALSE(ui.reports.empty());
+        EXPECT_TRUE(ui.reports.back().row.has_value());
+        return ui.reports.back().row.value_or(DataSheetColumns{});
+    }
+    int stagedRows(const char* table) const { return stagedRowCount(printer.stagingPath(), table); }
+
+    QTemporaryDir dir;
+    SettingsStore store;
+    DataSheetPrinter printer;
+};
+
+TEST_F(DataSheetTest, LiquidSheetTakesTheTextsAsShownAndTheCompanyBlock)
+{
+    enterWaterLine();
+    tool.txtProject[0].text = "Cooling water";
+    tool.liquidName = "Water";
+    const DataSheetColumns row = print();
+    const auto& run = ui.reports.back();
+    EXPECT_EQ(run.title, "Liquid Pressure Drop");
+    EXPECT_EQ(run.table, "PDLiquid");
+    EXPECT_EQ(run.reportFile, QDir(dir.path()).filePath("pdliquid.rpt").toStdString());
+    EXPECT_EQ(row.front().first, "Project");
+    EXPECT_EQ(column(row, "Project"), "Cooling water");
+    EXPECT_EQ(column(row, "Fluid"), "Water");
+    EXPECT_EQ(column(row, "Flowrate"), "36,000.00");
+    EXPECT_EQ(column(row, "FUnits"), "lbm/hr");
+    EXPECT_EQ(column(row, "Temp"), "77.00");
+    EXPECT_EQ(column(row, "CrossSection"), "Circular");
+    EXPECT_EQ(column(row, "Diameter"), data(5));
+    EXPECT_EQ(column(row, "Width"), "0"); // a circular section has no width or height
+    EXPECT_EQ(column(row, "WidthU"), "ft");
+    EXPECT_EQ(column(row, "Regime"), "Turbulent");
+    EXPECT_EQ(column(row, "PD"), data(10));
+    EXPECT_EQ(column(row, "PdU"), "psi");
+    EXPECT_EQ(column(row, "Company"), "Hydro Works");
+    EXPECT_EQ(column(row, "City"), "Leeds");
+    EXPECT_EQ(column(row, "Country"), "");
+    EXPECT_EQ(stagedRows("PDLiquid"), 0);
+    EXPECT_TRUE(ui.messages.empty());
+}
+
+TEST_F(DataSheetTest, AnOldResultIsPrintedAsItStandsAndNothingIsRecalculated)
+{
+    enterWaterLine();
+    const float drop = tool.record.PressureDrop;
+    tool.txtData[10].text = "12.34"; // shown but never committed
+    tool.txtDisplay[2].text = "";
+    const DataSheetColumns row = print();
+    EXPECT_EQ(column(row, "PD"), "12.34");
+    EXPECT_EQ(column(row, "Regime"), "");
+    EXPECT_EQ(tool.record.PressureDrop, drop);
+}
+
+TEST_F(DataSheetTest, GasAndTwoPhaseSheetsNameTheirOptions)
+{
+    tool.SSTab1_Click(1);
+    tool.optCrossSection_Click(4); // rectangular
+    tool.optCalcType_Click(1);
+    DataSheetColumns row = print();
+    EXPECT_EQ(ui.reports.back().table, "PDGas");
+    EXPECT_EQ(ui.reports.back().title, "Gas/Vapor Pressure Drop");
+    EXPECT_EQ(column(row, "CalcType"), "Isothermal");
+    EXPECT_EQ(column(row, "CrossSection"), "Rectangular");
+    EXPECT_EQ(column(row, "Diameter"), "0");
+    EXPECT_EQ(column(row, "Width"), data(43));
+
+    tool.SSTab1_Click(2);
+    tool.optOrientation_Click(1);
+    row = print();
+    EXPECT_EQ(ui.reports.back().table, "PD2P");
+    EXPECT_EQ(ui.reports.back().reportFile, QDir(dir.path()).filePath("pd2p.rpt").toStdString());
+    EXPECT_EQ(column(row, "PipeOrient"), "Upflow");
+    EXPECT_EQ(stagedRows("PDGas") + stagedRows("PD2P"), 0);
+}
+
+TEST_F(DataSheetTest, AFailedReportSaysSoAndStillEmptiesTheTable)
+{
+    enterWaterLine();
+    tool.DirtyFlag = false;
+    ui.reportResult = 1;
+    print();
+    ASSERT_EQ(ui.messages.size(), 1u);
+    EXPECT_EQ(ui.messages[0].title, "Report Generation Error");
+    EXPECT_EQ(ui.messages[0].text, "An error has occurred while Kestrova was building\r"
+                                   "the data sheet.  Make sure that all *.rpt files are \r"
+                                   "present in the directory where Kestrova was installed\r"
+                                   "or re-install Kestrova.");
+    EXPECT_EQ(stagedRows("PDLiquid"), 0);
+    EXPECT_FALSE(tool.DirtyFlag);
+}
+
+TEST_F(DataSheetTest, ShippedLayoutsNameOnlyColumnsTheToolWrites)
+{
+    for (int tab = 0; tab < 3; ++tab) {
+        tool.SSTab1_Click(tab);
+        const DataSheetColumns row = print();
+        const std::string file = QFileInfo(QString::fromStdString(ui.reports.back().reportFile)).fileName().toStdString();
+        const auto layout = readReportTemplate(QDir(KESTROVA_DATA_DIR).filePath(QString::fromStdString(file)));
+        ASSERT_TRUE(layout.has_value()) << file;
+        const auto html = dataSheetHtml(*layout, row);
+        ASSERT_TRUE(html.has_value()) << file;
+        EXPECT_TRUE(html->contains("Hydro Works"));
+    }
+}
+
+TEST(ReportTemplates, LinesAreReadOrRefused)
+{
+    QTemporaryDir dir;
+    const auto write = [&](const char* text) {
+        QFile file(dir.filePath("sheet.rpt"));
+        file.open(QIODevice::WriteOnly | QIODevice::Truncate);
+        file.write(text);
+        file.close();
+        return readReportTemplate(file.fileName());
+    };
+    const auto layout = write("# a comment\n\nheading Title\nsection Data\nfield Flow | Flowrate | FUnits\nfield Re | rE\n");
+    ASSERT_TRUE(layout.has_value());
+    ASSERT_EQ(layout->lines.size(), 4u);
+    EXPECT_EQ(layout->lines[2].column, "Flowrate");
+    EXPECT_EQ(layout->lines[2].unitColumn, "FUnits");
+    EXPECT_EQ(layout->lines[3].unitColumn, "");
+    EXPECT_FALSE(write("chart Flow\n").has_value());
+    EXPECT_FALSE(write("field Flow\n").has_value());
+    EXPECT_FALSE(readReportTemplate(dir.filePath("missing.rpt")).has_value());
+
+    // A column the row lacks makes the sheet fail; texts are escaped.
+    const DataSheetColumns row{{"Flowrate", "1 < 2"}, {"FUnits", "lbm/hr"}};
+    EXPECT_FALSE(dataSheetHtml(*layout, row).has_value());
+    const auto fits = write("field Flow | Flowrate | FUnits\n");
+    EXPECT_TRUE(dataSheetHtml(*fits, row)->contains("1 &lt; 2"));
+}
