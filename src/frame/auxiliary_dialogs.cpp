@@ -5,6 +5,8 @@
 #include "frame/user_interface.h"
 
 #include <QCheckBox>
+#include <QCursor>
+#include <QScreen>
 #include <QFormLayout>
 #include <QLineEdit>
 #include <QProcess>
@@ -18,6 +20,8 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
+
+#include <cmath>
 
 namespace kestrova {
 
@@ -171,6 +175,7 @@ frmDisclaimer::frmDisclaimer(UserInterface& ui, QWidget* parent) : QDialog(paren
     ok->setObjectName("cmdOK");
     ok->setDefault(true);
     connect(ok, &QPushButton::clicked, this, &QDialog::accept);
+    cmdOK_ = ok;
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(txtText_);
     layout->addWidget(ok, 0, Qt::AlignRight);
@@ -201,6 +206,7 @@ frmReadDisclaimer::frmReadDisclaimer(UserInterface& ui, SettingsStore& store, bo
     auto* agree = new QPushButton("I &Agree", this);
     agree->setObjectName("cmdAgree");
     agree->setDefault(true);
+    cmdAgree_ = agree;
     auto* disagree = new QPushButton("I &Disagree", this);
     disagree->setObjectName("cmdDisagree");
     auto* buttons = new QHBoxLayout;
@@ -228,6 +234,29 @@ frmReadDisclaimer::frmReadDisclaimer(UserInterface& ui, SettingsStore& store, bo
     ui_.setStatusText("You must agree in order to use Kestrova");
     chkDontShow_->setChecked(!showFlag_);
     loaded_ = true;
+}
+
+bool frmDisclaimer::event(QEvent* event)
+{
+    if (event->type() == QEvent::WindowActivate)
+        basCenterMouseCursor(*cmdOK_);
+    return QDialog::event(event);
+}
+
+bool frmReadDisclaimer::event(QEvent* event)
+{
+    if (event->type() == QEvent::WindowActivate)
+        basCenterMouseCursor(*cmdAgree_);
+    return QDialog::event(event);
+}
+
+// The window's rectangle runs from its left and top edges to just past its
+// right and bottom edges; the middle is rounded half to even.
+void basCenterMouseCursor(const QWidget& window)
+{
+    const QPoint topLeft = window.mapToGlobal(QPoint(0, 0));
+    const auto middle = [](int from, int extent) { return static_cast<int>(std::nearbyint((2.0 * from + extent) / 2)); };
+    QCursor::setPos(window.screen(), middle(topLeft.x(), window.width()), middle(topLeft.y(), window.height()));
 }
 
 void frmReadDisclaimer::cmdAgree_Click()

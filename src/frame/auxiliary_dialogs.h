@@ -60,9 +60,16 @@ public:
     frmDisclaimer(UserInterface& ui, QWidget* parent);
     QPlainTextEdit* text() const { return txtText_; }
 
+protected:
+    bool event(QEvent* event) override; // at activation the pointer goes to OK
+
 private:
     QPlainTextEdit* txtText_;
+    QWidget* cmdOK_;
 };
+
+// Moves the mouse pointer to the middle of a window or control.
+void basCenterMouseCursor(const QWidget& window);
 
 // frmReadDisclaimer: shown at start while "Disclaimer Show" is set. Agreeing
 // goes on; disagreeing ends the program at once.
@@ -72,11 +79,15 @@ public:
     bool agreed() const { return agreed_; }
     bool showFlag() const { return showFlag_; }
 
+protected:
+    bool event(QEvent* event) override; // at activation the pointer goes to "I Agree"
+
 private:
     void cmdAgree_Click();
     UserInterface& ui_;
     SettingsStore& store_;
     QCheckBox* chkDontShow_;
+    QWidget* cmdAgree_;
     bool showFlag_;
     bool loaded_ = false;
     bool agreed_ = false;

@@ -1,4 +1,5 @@
-// The main frame and the pressure drop window under the offscreen platform:
+// The main frame, the pressure drop window, the dialog tools and the small
+// forms under the offscreen platform:
 // controls by their program names, typing into fields, unit lists, options,
 // menu enabling and saving through the frame.
 
@@ -13,6 +14,7 @@
 #include "tools/pressure_drop/pressure_drop_model.h"
 
 #include <QAction>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QFileInfo>
 #include <QGroupBox>
@@ -28,6 +30,8 @@
 #include <QTableWidget>
 #include <QTemporaryDir>
 #include <QtTest>
+
+#include <cmath>
 
 using namespace kestrova;
 
@@ -186,7 +190,7 @@ private slots:
     }
 };
 
-class PrintingTest : public QObject {
+class PrintingAndSmallFormsTest : public QObject {
     Q_OBJECT
 
 private slots:
@@ -236,6 +240,26 @@ private slots:
         QCOMPARE(store.get("Settings", "Company", ""), std::string("Hydro Works"));
     }
 
+    void disclaimerPutsThePointerOnAgree()
+    {
+        QTemporaryDir dir;
+        SettingsStore store(dir.filePath("Kestrova.ini"));
+        ScriptedUserInterface ui;
+        frmReadDisclaimer form(ui, store, true, nullptr);
+        QCursor::setPos(0, 0);
+        form.show();
+        form.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&form));
+        auto* agree = form.findChild<QPushButton*>("cmdAgree");
+        // the middle of the button, its right and bottom edges taken just past the last pixel
+        const QPoint corner = agree->mapToGlobal(QPoint(0, 0));
+        const QPoint middle(static_cast<int>(std::nearbyint(corner.x() + agree->width() / 2.0)),
+                            static_cast<int>(std::nearbyint(corner.y() + agree->height() / 2.0)));
+        QTRY_COMPARE(QCursor::pos(), middle);
+        QCOMPARE(ui.statusText, std::string("You must agree in order to use Kestrova"));
+        QVERIFY(!form.findChild<QCheckBox*>("chkDontShow")->isChecked());
+    }
+
     void aboutBoxShowsTheVersion()
     {
         QCoreApplication::setApplicationVersion("1.2.3");
@@ -251,7 +275,7 @@ int main(int argc, char** argv)
     QApplication app(argc, argv);
     FrameWidgetsTest frame;
     DialogWidgetsTest dialogs;
-    PrintingTest printing;
+    PrintingAndSmallFormsTest printing;
     return QTest::qExec(&frame, argc, argv) | QTest::qExec(&dialogs, argc, argv) | QTest::qExec(&printing, argc, argv);
 }
 #include "frame_widgets_test.moc"
