@@ -1,6 +1,6 @@
 #include "frame/tool_dialog.h"
 
-#include "frame/field_keys.h"
+#include "frame/field_conventions.h"
 
 #include "frame/user_interface.h"
 #include "units/basLoadUnits.h"
@@ -14,7 +14,7 @@
 namespace kestrova {
 
 ToolDialog::ToolDialog(FormModel& model, UserInterface& ui, const QString& name, const QString& title, QWidget* parent)
-    : QDialog(parent), ui_(ui), model_(model)
+    : QDialog(parent), ui_(ui), model_(model), conventions_(ui)
 {
     setObjectName(name);
     setWindowTitle(title);
@@ -105,18 +105,13 @@ QPushButton* ToolDialog::button(const QString& name, const QString& caption, con
 
 void ToolDialog::status(QWidget* widget, const QString& text)
 {
-    statusTexts_[widget] = text;
-    widget->installEventFilter(this);
+    conventions_.setStatusText(widget, text, this);
 }
 
 bool ToolDialog::eventFilter(QObject* watched, QEvent* event)
 {
     auto* edit = qobject_cast<QLineEdit*>(watched);
     switch (event->type()) {
-    case QEvent::FocusIn:
-        if (edit && !edit->isReadOnly())
-            QTimer::singleShot(0, edit, &QLineEdit::selectAll);
-        break;
     case QEvent::FocusOut:
         if (edit && commits_.count(edit)) {
             edit->setModified(false);
@@ -129,15 +124,10 @@ bool ToolDialog::eventFilter(QObject* watched, QEvent* event)
             return true;
         break;
     }
-    case QEvent::Enter: {
-        const auto found = statusTexts_.find(watched);
-        if (found != statusTexts_.end())
-            ui_.setStatusText(found->second.toStdString());
-        break;
-    }
     default:
         break;
     }
+    conventions_.apply(watched, event);
     return QDialog::eventFilter(watched, event);
 }
 

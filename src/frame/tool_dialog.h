@@ -4,6 +4,7 @@
 // with the field conventions of the program (commit on leaving a field, text
 // selected on entering it, the numeric key filter, status texts).
 
+#include "frame/field_conventions.h"
 #include "frame/form_model.h"
 
 #include <QDialog>
@@ -51,7 +52,7 @@ private:
     void update();
     FormModel& model_;
     std::map<QObject*, std::function<void(const QString&)>> commits_;
-    std::map<QObject*, QString> statusTexts_;
+    FieldConventions conventions_;
     std::map<QObject*, std::pair<bool, bool>> filters_; // numeric, minus
 };
 

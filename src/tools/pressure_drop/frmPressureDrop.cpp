@@ -1,5 +1,5 @@
 #include "tools/pressure_drop/frmPressureDrop.h"
-#include "frame/field_keys.h"
+#include "frame/field_conventions.h"
 
 #include "frame/user_interface.h"
 #include "tools/pressure_drop/pressure_drop_model.h"
@@ -42,7 +42,7 @@ bool isResultField(int index)
 } // namespace
 
 frmPressureDrop::frmPressureDrop(PressureDropModel& model, UserInterface& ui, QWidget* parent)
-    : QWidget(parent), model_(model), ui_(ui)
+    : QWidget(parent), model_(model), ui_(ui), conventions_(ui)
 {
     setObjectName("frmPressureDrop");
     setWindowTitle(PressureDropModel::kTitle);
@@ -72,8 +72,7 @@ QSize frmPressureDrop::sizeHint() const
 
 void frmPressureDrop::watchStatus(QWidget* widget, const QString& text)
 {
-    statusTexts_[widget] = text;
-    widget->installEventFilter(this);
+    conventions_.setStatusText(widget, text, this);
 }
 
 QGroupBox* frmPressureDrop::frame(int index, const QString& caption)
@@ -540,23 +539,14 @@ bool frmPressureDrop::eventFilter(QObject* watched, QEvent* event)
         }
         break;
     }
-    case QEvent::FocusIn:
-        if (field && !field->isReadOnly())
-            QTimer::singleShot(0, field, &QLineEdit::selectAll);
-        break;
     case QEvent::FocusOut:
         if (field && !field->isReadOnly() && !rendering_)
             commit(field);
         break;
-    case QEvent::Enter: {
-        const auto found = statusTexts_.find(watched);
-        if (found != statusTexts_.end())
-            ui_.setStatusText(found->second.toStdString());
-        break;
-    }
     default:
         break;
     }
+    conventions_.apply(watched, event);
     return QWidget::eventFilter(watched, event);
 }
 

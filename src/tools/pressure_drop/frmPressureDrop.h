@@ -3,6 +3,8 @@
 // control named as the program knows it ("txtData(5)", "cboUnits(5)"). It
 // forwards the user's events to PressureDropModel and shows what the model holds.
 
+#include "frame/field_conventions.h"
+
 #include <QWidget>
 
 #include <array>
@@ -65,7 +67,7 @@ private:
     QLineEdit* txtLiquid_ = nullptr;
     QLineEdit* txtGas_ = nullptr;
     QLabel* twoPhaseNames_ = nullptr;
-    std::map<QObject*, QString> statusTexts_;
+    FieldConventions conventions_;
     bool rendering_ = false;
 };
 
