@@ -27,4 +27,18 @@ void printPicture(QPainter& painter, QPrinter& printer, const QPixmap& picture, 
     painter.drawPixmap(centredPicture(page.size(), onPaper), picture);
 }
 
+bool printCopies(QPrinter& printer, const QPixmap& picture, int copies, int screenDpi)
+{
+    printer.setCopyCount(1); // the copies are jobs, not the driver's copies of one job
+    for (int copy = 0; copy < copies; ++copy) {
+        QPainter painter;
+        if (!painter.begin(&printer))
+            return false;
+        printPicture(painter, printer, picture, screenDpi);
+        if (!painter.end())
+            return false;
+    }
+    return true;
+}
+
 } // namespace kestrova

@@ -23,4 +23,8 @@ QRect centredPicture(const QSize& page, const QSize& picture);
 // picture keeps the size it has on screen.
 void printPicture(QPainter& painter, QPrinter& printer, const QPixmap& picture, int screenDpi);
 
+// Prints the picture once per copy, each copy a print job of its own; false
+// when the printer cannot start a job.
+bool printCopies(QPrinter& printer, const QPixmap& picture, int copies, int screenDpi);
+
 } // namespace kestrova

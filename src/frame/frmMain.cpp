@@ -545,24 +545,17 @@ void frmMain::mnuFilePrintScreen_Click()
     if (dialog.exec() != QDialog::Accepted)
         return;
     const int copies = std::max(printer_.copyCount(), 1);
-    printer_.setCopyCount(1);
     ui_.setBusyPointer(true);
     QEventLoop repaint; // let the dialog's place on screen be repainted
     QTimer::singleShot(200, &repaint, &QEventLoop::quit);
     repaint.exec();
-    const int screenDpi = active->widget()->logicalDpiX();
-    for (int copy = 0; copy < copies; ++copy) {
-        QPainter painter;
-        if (!painter.begin(&printer_)) { // each copy is a print job of its own
-            ui_.setBusyPointer(false);
-            ui_.ask("Kestrova", "The printer could not be started.", MessageIcon::Stop, MessageButtons::Ok,
-                    MessageAnswer::Ok);
-            return;
-        }
-        printPicture(painter, printer_, picture, screenDpi);
-        painter.end();
-    }
+    const bool printed = printCopies(printer_, picture, copies, active->widget()->logicalDpiX());
     ui_.setBusyPointer(false);
+    if (!printed) {
+        ui_.ask("Kestrova", "The printer could not be started.", MessageIcon::Stop, MessageButtons::Ok,
+                MessageAnswer::Ok);
+        return;
+    }
     active->showMaximized();
 }
 

@@ -25,6 +25,7 @@
 #include <QRadioButton>
 #include <QListWidget>
 #include <QPainter>
+#include <QRegularExpression>
 #include <QPrinter>
 #include <QPushButton>
 #include <QTableWidget>
@@ -215,10 +216,14 @@ private slots:
         QPrinter printer(QPrinter::HighResolution);
         printer.setOutputFormat(QPrinter::PdfFormat);
         printer.setOutputFileName(dir.filePath("shot.pdf"));
-        QPainter painter(&printer);
-        printPicture(painter, printer, picture, 96);
-        QVERIFY(painter.end());
-        QVERIFY(QFileInfo(dir.filePath("shot.pdf")).size() > 1000);
+        QVERIFY(printCopies(printer, picture, 3, 96));
+        // Each copy is a job of its own: the file holds the last job, one page,
+        // not three pages of one job.
+        QFile pdf(dir.filePath("shot.pdf"));
+        QVERIFY(pdf.open(QIODevice::ReadOnly));
+        const QString text = QString::fromLatin1(pdf.readAll());
+        QCOMPARE(text.count(QRegularExpression("/Type\\s*/Page[^s]")), 1);
+        QVERIFY(text.contains("/Image"));
     }
 
     void companyInfoClosesOnlyPastItsQuestion()
