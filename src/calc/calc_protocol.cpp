@@ -32,7 +32,7 @@ std::string dispatch(const nlohmann::json& request, const std::string& id)
     const auto handler = calls.find(call->get<std::string>());
     if (handler == calls.end()) {
         const std::string name = call->get<std::string>();
-        if (name == "PumpNetwork.NetCalc" || name == "OrificePlates.ComputeOrifice")
+        if (name == "PumpNetwork.NetCalc")
             throw RequestError("the call '" + name + "' belongs to a tool that is not available in this version");
         throw RequestError("unknown call '" + name + "'");
     }

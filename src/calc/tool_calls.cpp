@@ -5,6 +5,8 @@
 #include "numeric/display_mask.h"
 #include "numeric/numeric_fault.h"
 #include "frame/scripted_user_interface.h"
+#include "frame/unit_field.h"
+#include "tools/orifice/orifice_model.h"
 #include "tools/piping/minor_loss_store.h"
 #include "tools/piping/pipe_selection.h"
 #include "tools/pressure_drop/pressure_drop_model.h"
@@ -69,20 +71,40 @@ std::string textValue(const json& value, const std::string& name)
     return value.get<std::string>();
 }
 
-void applyRecord(PressureDropModel& tool, const json& record)
+// Sets record fields by name; `fields` and `names` are in the same order.
+template <size_t N>
+void applyRecord(const std::array<Single*, N>& fields, const char* const* names, const json& record)
 {
-    const auto fields = tool.record.fields();
-    const char* const* names = pressureDropFieldNames();
     for (auto it = record.begin(); it != record.end(); ++it) {
         int found = -1;
-        for (int i = 0; i < PressureDropData::kFieldCount; ++i)
+        for (size_t i = 0; i < N; ++i)
             if (it.key() == names[i])
-                found = i;
+                found = static_cast<int>(i);
         if (found < 0)
             throw RequestError("unknown record field '" + it.key() + "'");
         const double value = numberValue(it.value(), it.key());
         FaultScope scope("arguments");
         *fields[static_cast<size_t>(found)] = value;
+    }
+}
+
+// Commits the texts of one control family, in ascending index order.
+template <typename Commit>
+void applyTexts(const json& texts, const std::string& family, int count, Commit commit)
+{
+    for (const auto& [index, value] : controlsOf(texts, family, count))
+        commit(index, textValue(*value, family + "(" + std::to_string(index) + ")"));
+}
+
+// Chooses the unit lists named in `units` through `setUnit`.
+template <typename SetUnit>
+void applyUnits(const json& units, int count, SetUnit setUnit)
+{
+    checkControlNames(units, {{"cboUnits", count}});
+    for (const auto& [index, value] : controlsOf(units, "cboUnits", count)) {
+        const double number = numberValue(*value, "cboUnits(" + std::to_string(index) + ")");
+        FaultScope scope("arguments");
+        setUnit(index, roundToInteger16(number));
     }
 }
 
@@ -104,29 +126,60 @@ void pressureDropCalculateResults(const RequestArgs& a, JsonObject& result)
     if (args.contains("orientation"))
         tool.selectOrientation(std::clamp<int>(a.integer16("orientation"), 0, 2));
 
-    const json& units = objectArgument(args, "units");
-    checkControlNames(units, {{"cboUnits", kPressureDropFields}});
-    for (const auto& [index, value] : controlsOf(units, "cboUnits", kPressureDropFields)) {
-        const double number = numberValue(*value, "cboUnits(" + std::to_string(index) + ")");
-        FaultScope scope("arguments");
-        tool.setUnit(index, roundToInteger16(number));
-    }
-    applyRecord(tool, objectArgument(args, "record"));
+    applyUnits(objectArgument(args, "units"), kPressureDropFields,
+               [&tool](int index, UnitIndex unit) { tool.setUnit(index, unit); });
+    applyRecord(tool.record.fields(), pressureDropFieldNames(), objectArgument(args, "record"));
     for (int i = 0; i < kPressureDropFields; ++i)
         tool.cboUnits_Click(i);
 
     const json& texts = objectArgument(args, "texts");
     checkControlNames(texts, {{"txtData", kPressureDropFields}, {"txtDisplay", PressureDropModel::kDisplays}});
-    for (const auto& [index, value] : controlsOf(texts, "txtData", kPressureDropFields)) {
-        tool.txtData[static_cast<size_t>(index)].text = textValue(*value, "txtData(" + std::to_string(index) + ")");
+    applyTexts(texts, "txtData", kPressureDropFields, [&tool](int index, const std::string& text) {
+        tool.txtData[static_cast<size_t>(index)].text = text;
         tool.commitFieldText(index);
-    }
-    for (const auto& [index, value] : controlsOf(texts, "txtDisplay", PressureDropModel::kDisplays)) {
-        tool.txtDisplay[static_cast<size_t>(index)].text = textValue(*value, "txtDisplay(" + std::to_string(index) + ")");
+    });
+    applyTexts(texts, "txtDisplay", PressureDropModel::kDisplays, [&tool](int index, const std::string& text) {
+        tool.txtDisplay[static_cast<size_t>(index)].text = text;
         tool.commitDisplayText(index);
-    }
+    });
     tool.CalculateResults();
     reportPressureDrop(tool, ui, result);
+}
+
+void orificePlatesComputeOrifice(const RequestArgs& a, JsonObject& result)
+{
+    resetSharedState();
+    ScriptedUserInterface ui;
+    OrificeModel tool(ui);
+    tool.Form_Load();
+    tool.Form_Activate();
+
+    const json& args = a.raw();
+    if (args.contains("tab"))
+        tool.SSTab1_Click(std::clamp<int>(a.integer16("tab"), 0, 1));
+    if (args.contains("compute"))
+        tool.compute = std::clamp<int>(a.integer16("compute"), 0, 5) % 3;
+    if (args.contains("tap"))
+        tool.meterTap = std::clamp<int>(a.integer16("tap"), 0, 5) % 3;
+    applyUnits(objectArgument(args, "units"), OrificeModel::kFields,
+               [&tool](int index, UnitIndex unit) { tool.setUnit(index, unit); });
+    applyRecord(tool.record.fields(), OrificeData::names().data(), objectArgument(args, "record"));
+    for (int i = 0; i < OrificeModel::kFields; ++i)
+        tool.showField(i);
+
+    const json& texts = objectArgument(args, "texts");
+    checkControlNames(texts, {{"txtData", OrificeModel::kFields}, {"txtDisplay", OrificeModel::kDisplays}});
+    applyTexts(texts, "txtData", OrificeModel::kFields, [&tool](int index, const std::string& text) {
+        tool.txtData[static_cast<size_t>(index)] = text;
+        tool.commitFieldText(index);
+    });
+    applyTexts(texts, "txtDisplay", OrificeModel::kDisplays, [&tool](int index, const std::string& text) {
+        tool.txtDisplay[static_cast<size_t>(index)] = text;
+        if (index == 5) // k, the only display that takes typing
+            readPlainText(text, tool.record.heatCapacityRatio);
+    });
+    tool.ComputeOrifice();
+    reportOrifice(tool, result);
 }
 
 std::vector<std::string> textList(const RequestArgs& a, const std::string& name, size_t count)
@@ -279,6 +332,7 @@ void resetSharedState()
 void addToolCalls(std::map<std::string, CallSpec, std::less<>>& calls)
 {
     calls["PressureDrop.CalculateResults"] = {{}, pressureDropCalculateResults};
+    calls["OrificePlates.ComputeOrifice"] = {{}, orificePlatesComputeOrifice};
     calls["FlowConversions.Convert"] = {{"conversion", "stp", "units", "field"}, flowConversionsConvert};
     calls["GasDensity.Compute"] = {{"temperature", "pressure", "molecularWeight", "compressibility"}, gasDensityCompute};
     calls["CompressFactor.ComputeZ"] = {

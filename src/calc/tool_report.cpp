@@ -1,6 +1,7 @@
 #include "calc/tool_report.h"
 
 #include "frame/scripted_user_interface.h"
+#include "tools/orifice/orifice_model.h"
 #include "tools/pressure_drop/pressure_drop_model.h"
 
 namespace kestrova::calc {
@@ -70,6 +71,21 @@ void reportPressureDrop(const PressureDropModel& tool, const ScriptedUserInterfa
         .boolean("failed", tool.failed)
         .raw("messages", messagesJson(ui))
         .integer("beeps", ui.beeps);
+}
+
+void reportOrifice(OrificeModel& tool, JsonObject& result)
+{
+    JsonObject record;
+    const auto fields = tool.record.fields();
+    for (int i = 0; i < OrificeData::kFieldCount; ++i)
+        record.single(OrificeData::names()[static_cast<size_t>(i)], *fields[static_cast<size_t>(i)]);
+    JsonObject texts;
+    for (int i = 0; i < OrificeModel::kFields; ++i)
+        texts.text("txtData(" + std::to_string(i) + ")", tool.txtData[static_cast<size_t>(i)]);
+    for (int i = 0; i < OrificeModel::kDisplays; ++i)
+        texts.text("txtDisplay(" + std::to_string(i) + ")", tool.txtDisplay[static_cast<size_t>(i)]);
+    texts.text("txtErrorLiquid", tool.txtErrorLiquid).text("txtErrorGas", tool.txtErrorGas);
+    result.raw("record", record.str()).raw("texts", texts.str());
 }
 
 } // namespace kestrova::calc

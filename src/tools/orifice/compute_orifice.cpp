@@ -246,6 +246,24 @@ private:
 
 } // namespace
 
+std::array<Single*, OrificeData::kFieldCount> OrificeData::fields()
+{
+    return {&liquidFlow,      &gasFlow,         &pipeID,           &orificeDiameter,      &holeDiameter,
+            &liquidDensity,   &gasDensity,      &gasViscosity,     &liquidViscosity,      &velocityPipe,
+            &velocityOrifice, &referenceTemperature, &elementExpansion, &pipeExpansion, &differentialPressure,
+            &permanentLoss,   &temperature,     &inletPressure,    &heatCapacityRatio};
+}
+
+const std::array<const char*, OrificeData::kFieldCount>& OrificeData::names()
+{
+    static const std::array<const char*, kFieldCount> table{
+        "liquidFlow",      "gasFlow",         "pipeID",           "orificeDiameter",      "holeDiameter",
+        "liquidDensity",   "gasDensity",      "gasViscosity",     "liquidViscosity",      "velocityPipe",
+        "velocityOrifice", "referenceTemperature", "elementExpansion", "pipeExpansion", "differentialPressure",
+        "permanentLoss",   "temperature",     "inletPressure",    "heatCapacityRatio"};
+    return table;
+}
+
 Single GasExpansionFactor(Single beta, Single differentialPressure, Single heatCapacityRatio, Single inletPressure)
 {
     const double kP1 = heatCapacityRatio * inletPressure; // formed first

@@ -6,6 +6,7 @@
 #include "numeric/single.h"
 #include "tools/orifice/basOrificeFunctions.h"
 
+#include <array>
 #include <string>
 
 namespace kestrova {
@@ -16,6 +17,11 @@ struct OrificeData {
     Single liquidFlow, gasFlow, pipeID, orificeDiameter, holeDiameter, liquidDensity, gasDensity, gasViscosity,
         liquidViscosity, velocityPipe, velocityOrifice, referenceTemperature, elementExpansion, pipeExpansion,
         differentialPressure, permanentLoss, temperature, inletPressure, heatCapacityRatio;
+
+    static constexpr int kFieldCount = 19;
+    // The fields and their names, in record order.
+    std::array<Single*, kFieldCount> fields();
+    static const std::array<const char*, kFieldCount>& names();
 };
 
 enum class OrificeFluid { Liquid = 0, Gas = 1 };                                    // the tab

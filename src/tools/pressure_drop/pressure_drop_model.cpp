@@ -163,15 +163,9 @@ void PressureDropModel::showField(int index)
     if (index < 0 || index >= kPressureDropFields)
         return;
     const FieldBinding& field = pressureDropField(index);
-    const UnitIndex unit = cboUnits[static_cast<size_t>(index)].listIndex;
-    if (unit < 0 || static_cast<size_t>(unit) >= unitList(field.kind->tag).size())
-        return;
-    try {
-        txtData[static_cast<size_t>(index)].text =
-            formatMask(field.kind->toUnit(record.*field.member, unit), field.kind->masks[static_cast<size_t>(unit)]);
-    } catch (const NumericFault&) {
-        // A value too large for its unit cannot be shown; the text stays.
-    }
+    const std::string text = unitFieldText(*field.kind, record.*field.member, cboUnits[static_cast<size_t>(index)].listIndex);
+    if (!text.empty()) // a value too large for its unit cannot be shown: the text stays
+        txtData[static_cast<size_t>(index)].text = text;
 }
 
 void PressureDropModel::txtData_LostFocus(int index)
@@ -188,12 +182,9 @@ void PressureDropModel::commitFieldText(int index)
     if (index < 0 || index >= kPressureDropFields)
         return;
     const FieldBinding& field = pressureDropField(index);
-    try {
-        const double typed = parseFieldNumber(txtData[static_cast<size_t>(index)].text);
-        record.*field.member = field.kind->fromUnit(typed, cboUnits[static_cast<size_t>(index)].listIndex);
-    } catch (const NumericFault&) {
-        // A number that no single can hold is not taken: the stored value stays.
-    }
+    // A number that no single can hold is not taken: the stored value stays.
+    readUnitFieldText(*field.kind, txtData[static_cast<size_t>(index)].text, cboUnits[static_cast<size_t>(index)].listIndex,
+                      record.*field.member);
     showField(index);
 }
 

@@ -1,5 +1,6 @@
 #include "tools/pressure_drop/pressure_drop_record.h"
 
+#include "frame/field_kinds.h"
 #include "units/basConversions.h"
 
 namespace kestrova {
@@ -17,80 +18,62 @@ std::array<Single*, PressureDropData::kFieldCount> PressureDropData::fields()
 
 namespace {
 
-const FieldKind kFlow{"Flow Rate", FlowToUnit, FlowFromUnit,
-                      {"##,##0.00", "##,##0.0000", "##,##0.0000", "##,##0.00", "##,##0.000", "##,##0.0000"}};
-const FieldKind kDensity{"Density", DensityToUnit, DensityFromUnit,
-                         {"##,##0.0000", "##,##0.0000", "##,##0.0", "##,##0.000"}};
-const FieldKind kViscosity{"Viscosity", ViscosityToUnit, ViscosityFromUnit,
-                           {"0.0000E+00", "0.0000E+00", "0.0000E+00", "0.0000E+00"}};
-const FieldKind kDiameter{"Diameter", DiameterToUnit, DiameterFromUnit,
-                          {"##,##0.0000", "##,##0.0000", "##,##0.0000", "##,##0.00", "##,##0.00", "##,##0.00000"}};
-const FieldKind kRoughness{"Roughness", RoughnessToUnit, RoughnessFromUnit,
-                           {"0.00000", "0.000000", "0.0000", "0.00000"}};
-const FieldKind kLength{"Length", LengthToUnit, LengthFromUnit,
-                        {"##,##0.00", "##,##0.00", "##,##0.00", "##,##0.00", "##,##0.00", "##,##0.00"}};
-const FieldKind kVelocity{"Velocity", VelocityToUnit, VelocityFromUnit,
-                          {"0.000", "0.000", "0.000", "0.000"}};
+using namespace field_kinds;
+
+// The pressure drop tool's own masks for a pressure drop.
 const FieldKind kPressureDrop{"Pressure Drop", PressureToUnit, PressureFromUnit,
                               {"##,##0.00", "##,##0.00", "##,##0.000", "##,##0.000", "##,##0.000", "##,##0.00",
                                "##,##0.000", "##,##0.00"}};
-const FieldKind kPressure{"Pressure", PressureToUnit, PressureFromUnit,
-                          {"##,##0.00", "##,##0.00", "##,##0.00", "##,##0.00", "##,##0.00", "##,##0.00", "##,##0.00",
-                           "##,##0.00"}};
-const FieldKind kTemperature{"Temperature", TemperatureToUnit, TemperatureFromUnit,
-                             {"##,##0.00", "##,##0.00", "##,##0.00", "##,##0.00"}};
-const FieldKind kSurfaceTension{"Surface Tension", SurfaceTensionToUnit,
-                                SurfaceTensionFromUnit, {"##0.00", "0.000000", "0.00000"}};
 
 using D = PressureDropData;
 
 const std::array<FieldBinding, kPressureDropFields> kFields{{
-    {&kFlow, &D::LiquidFlow},          // 0
-    {&kDensity, &D::LiquidDensity},    // 1
-    {&kViscosity, &D::LiquidViscosity}, // 2
-    {&kDiameter, &D::ConduitWidth},    // 3
-    {&kDiameter, &D::ConduitHeight},   // 4
-    {&kDiameter, &D::Diameter},        // 5
-    {&kRoughness, &D::Roughness},      // 6
-    {&kLength, &D::ElevationChange},   // 7
-    {&kLength, &D::PipeLength},        // 8
-    {&kVelocity, &D::Velocity},        // 9
+    {&flow, &D::LiquidFlow},          // 0
+    {&density, &D::LiquidDensity},    // 1
+    {&viscosity, &D::LiquidViscosity}, // 2
+    {&diameter, &D::ConduitWidth},    // 3
+    {&diameter, &D::ConduitHeight},   // 4
+    {&diameter, &D::Diameter},        // 5
+    {&roughness, &D::Roughness},      // 6
+    {&length, &D::ElevationChange},   // 7
+    {&length, &D::PipeLength},        // 8
+    {&velocity, &D::Velocity},        // 9
     {&kPressureDrop, &D::PressureDrop}, // 10
-    {&kFlow, &D::GasFlow},             // 11
-    {&kPressure, &D::InletPressure},   // 12
-    {&kTemperature, &D::InletTemperature}, // 13
-    {&kViscosity, &D::VaporViscosity}, // 14
-    {&kDiameter, &D::Diameter},        // 15
-    {&kRoughness, &D::Roughness},      // 16
-    {&kLength, &D::PipeLength},        // 17
-    {&kVelocity, &D::Velocity},        // 18
-    {&kVelocity, &D::ExitVelocity},    // 19
-    {&kDensity, &D::GasDensity},       // 20
-    {&kDensity, &D::ExitDensity},      // 21
-    {&kVelocity, &D::SonicVelocity},   // 22
-    {&kTemperature, &D::ExitTemperature}, // 23
+    {&flow, &D::GasFlow},             // 11
+    {&pressure, &D::InletPressure},   // 12
+    {&temperature, &D::InletTemperature}, // 13
+    {&viscosity, &D::VaporViscosity}, // 14
+    {&diameter, &D::Diameter},        // 15
+    {&roughness, &D::Roughness},      // 16
+    {&length, &D::PipeLength},        // 17
+    {&velocity, &D::Velocity},        // 18
+    {&velocity, &D::ExitVelocity},    // 19
+    {&density, &D::GasDensity},       // 20
+    {&density, &D::ExitDensity},      // 21
+    {&velocity, &D::SonicVelocity},   // 22
+    {&temperature, &D::ExitTemperature}, // 23
     {&kPressureDrop, &D::PressureDrop}, // 24
-    {&kPressure, &D::ExitPressure},    // 25
-    {&kViscosity, &D::LiquidViscosity}, // 26
-    {&kDensity, &D::LiquidDensity},    // 27
-    {&kFlow, &D::LiquidFlow},          // 28
-    {&kSurfaceTension, &D::SurfaceTension}, // 29
-    {&kFlow, &D::GasFlow},             // 30
-    {&kDensity, &D::VaporDensity},     // 31
-    {&kViscosity, &D::VaporViscosity}, // 32
-    {&kLength, &D::PipeLength},        // 33
-    {&kRoughness, &D::Roughness},      // 34
-    {&kDiameter, &D::Diameter},        // 35
-    {&kVelocity, &D::Velocity},        // 36
-    {&kVelocity, &D::ExitVelocity},    // 37
-    {&kDensity, &D::AverageDensity},   // 38
-    {&kViscosity, &D::AverageViscosity}, // 39
-    {&kVelocity, &D::AverageVelocity}, // 40
+    {&pressure, &D::ExitPressure},    // 25
+    {&viscosity, &D::LiquidViscosity}, // 26
+    {&density, &D::LiquidDensity},    // 27
+    {&flow, &D::LiquidFlow},          // 28
+    {&surfaceTension, &D::SurfaceTension}, // 29
+    {&flow, &D::GasFlow},             // 30
+    {&density, &D::VaporDensity},     // 31
+    {&viscosity, &D::VaporViscosity}, // 32
+    {&length, &D::PipeLength},        // 33
+    {&roughness, &D::Roughness},      // 34
+    {&diameter, &D::Diameter},        // 35
+    {&velocity, &D::Velocity},        // 36
+    {&velocity, &D::ExitVelocity},    // 37
+    {&density, &D::AverageDensity},   // 38
+    {&viscosity, &D::AverageViscosity}, // 39
+    {&velocity, &D::AverageVelocity}, // 40
     {&kPressureDrop, &D::PressureDrop}, // 41
-    {&kDiameter, &D::ConduitHeight},   // 42
-    {&kDiameter, &D::ConduitWidth},    // 43
-    {&kTemperature, &D::InletTemperature}, // 44
-    {&kTemperature, &D::InletTemperature}, // 45
+    {&diameter, &D::ConduitHeight},   // 42
+    {&diameter, &D::ConduitWidth},    // 43
+    {&temperature, &D::InletTemperature}, // 44
+    {&temperature, &D::InletTemperature}, // 45
 }};
 
 using Q = Quantity;

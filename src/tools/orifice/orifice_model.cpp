@@ -1,0 +1,257 @@
+#include "tools/orifice/orifice_model.h"
+
+#include "frame/field_kinds.h"
+#include "frame/global_units.h"
+#include "frame/unit_field.h"
+#include "frame/user_interface.h"
+
+#include <algorithm>
+
+namespace kestrova {
+
+namespace {
+
+// The tool's own masks for a pressure drop and a gas density.
+const FieldKind kPressureDrop{"Pressure Drop", PressureToUnit, PressureFromUnit,
+                              {"##,##0.00", "##,##0.0000", "##,##0.00", "##,##0.0", "##,##0.0", "##,##0.000", "##,##0.0",
+                               "##,##0.0000"}};
+const FieldKind kGasDensity{"Density", DensityToUnit, DensityFromUnit,
+                            {"##,##0.0000", "##,##0.0000", "##,##0.0000", "##,##0.000"}};
+const FieldKind kExpansion{"Expansion Coef", ExpansionToUnit, ExpansionFromUnit, {"0.00E+00", "0.00E+00"}};
+
+struct OrificeField {
+    const FieldKind* kind;
+    Single OrificeData::*member;
+    bool takesGlobalUnit; // the expansion lists keep their own choice
+    Quantity quantity;
+};
+
+using O = OrificeData;
+using Q = Quantity;
+namespace k = field_kinds;
+
+// txtData(i) with cboUnits(i); the gas field 18 is the inlet pressure, which the liquid tab lacks.
+const std::array<OrificeField, OrificeModel::kFields> kFieldTable{{
+    {&k::flow, &O::liquidFlow, true, Q::Flow},                  // 0
+    {&kPressureDrop, &O::differentialPressure, true, Q::PressureDrop},
+    {&k::diameter, &O::orificeDiameter, true, Q::Diameter},
+    {&k::temperature, &O::temperature, true, Q::Temperature},
+    {&k::density, &O::liquidDensity, true, Q::Density},
+    {&k::viscosity, &O::liquidViscosity, true, Q::Viscosity},   // 5
+    {&k::temperature, &O::referenceTemperature, true, Q::Temperature},
+    {&k::diameter, &O::holeDiameter, true, Q::Diameter},
+    {&kExpansion, &O::elementExpansion, false, Q::Temperature},
+    {&k::diameter, &O::pipeID, true, Q::Diameter},
+    {&kExpansion, &O::pipeExpansion, false, Q::Temperature},    // 10
+    {&k::velocity, &O::velocityPipe, true, Q::Velocity},
+    {&k::velocity, &O::velocityOrifice, true, Q::Velocity},
+    {&kPressureDrop, &O::permanentLoss, true, Q::PressureDrop},
+    {&k::flow, &O::gasFlow, true, Q::Flow},
+    {&kPressureDrop, &O::differentialPressure, true, Q::PressureDrop}, // 15
+    {&k::diameter, &O::orificeDiameter, true, Q::Diameter},
+    {&k::temperature, &O::temperature, true, Q::Temperature},
+    {&k::pressure, &O::inletPressure, true, Q::Pressure},
+    {&kGasDensity, &O::gasDensity, true, Q::Density},
+    {&k::viscosity, &O::gasViscosity, true, Q::Viscosity},      // 20
+    {&k::temperature, &O::referenceTemperature, true, Q::Temperature},
+    {&k::diameter, &O::holeDiameter, true, Q::Diameter},
+    {&kExpansion, &O::elementExpansion, false, Q::Temperature},
+    {&k::diameter, &O::pipeID, true, Q::Diameter},
+    {&kExpansion, &O::pipeExpansion, false, Q::Temperature},    // 25
+    {&k::velocity, &O::velocityPipe, true, Q::Velocity},
+    {&k::velocity, &O::velocityOrifice, true, Q::Velocity},
+    {&kPressureDrop, &O::permanentLoss, true, Q::PressureDrop},
+}};
+
+// The coefficient fields of the materials: element and pipe, on each tab.
+constexpr std::array<int, 2> kElementExpansionField{8, 23}, kPipeExpansionField{10, 25};
+constexpr int kLiquidFirstSolved = 0, kGasFirstSolved = 14;
+
+// The calculation's output lands in the model's texts.
+class ModelDisplay : public OrificeDisplay {
+public:
+    explicit ModelDisplay(OrificeModel& model) : model_(model) {}
+    void showDisplay(int index, const std::string& text) override
+    {
+        model_.txtDisplay.at(static_cast<size_t>(index)) = text;
+    }
+    void refresh(int field) override { model_.showField(field); }
+    void showErrorLiquid(const std::string& text) override { model_.txtErrorLiquid = text; }
+    void showErrorGas(const std::string& text) override { model_.txtErrorGas = text; }
+
+private:
+    OrificeModel& model_;
+};
+
+} // namespace
+
+const std::array<OrificeModel::Material, OrificeModel::kMaterials>& OrificeModel::materials()
+{
+    static const std::array<Material, kMaterials> table{{
+        {"Carbon Steel", 6.7e-6},   {"Stainless Steel", 9.4e-6}, {"Hastelloy B", 5.6e-6},     {"Hastelloy C", 6.3e-6},
+        {"Inconel X", 6.7e-6},      {"Stellite", 7.6e-6},        {"Copper", 9.3e-6},          {"Yellow Brass", 1.05e-5},
+        {"Aluminum Bronze", 9.2e-6}, {"Beryllium Copper", 9.3e-6}, {"Cupronickel 30%", 8.5e-6}, {"K-Monel", 7.4e-6},
+        {"Nickel", 8.3e-6},         {"Pyrex Glass", 2e-7},       {"Titanium", 4.7e-6},        {"Tantalum", 3.6e-6},
+        {"Polypropylene", 7.8e-5},  {"PVDF", 6.1e-5},            {"PTFE", 7.2e-5},            {"Other!", 0},
+    }};
+    return table;
+}
+
+OrificeModel::OrificeModel(UserInterface& ui, QObject* parent) : FormModel(parent), ui_(ui) {}
+
+void OrificeModel::Form_Load()
+{
+    ChangeNotice notice(*this);
+    ui_.setBusyPointer(true);
+    compute = meterTap = 0;
+    txtErrorLiquid.clear();
+    txtErrorGas.clear();
+    for (int t = 0; t < 2; ++t) {
+        elementMaterial[static_cast<size_t>(t)] = 1;
+        pipeMaterial[static_cast<size_t>(t)] = 0;
+    }
+    record.elementExpansion = materials()[1].coefficient;
+    record.pipeExpansion = materials()[0].coefficient;
+    record.referenceTemperature = 68;
+    for (int i = 0; i < kFields; ++i)
+        showField(i);
+    dirty = false;
+    ui_.setToolbarButtonEnabled("Save", true);
+    ui_.setBusyPointer(false);
+}
+
+void OrificeModel::Form_Activate()
+{
+    ChangeNotice notice(*this);
+    for (int i = 0; i < kFields; ++i) {
+        const OrificeField& f = kFieldTable[static_cast<size_t>(i)];
+        if (f.takesGlobalUnit)
+            cboUnits[static_cast<size_t>(i)] = globalUnits()[f.quantity];
+        showField(i);
+    }
+    ui_.setToolbarButtonEnabled("Print", true);
+    SSTab1_Click(tab);
+}
+
+void OrificeModel::SSTab1_Click(int newTab)
+{
+    ChangeNotice notice(*this);
+    tab = std::clamp(newTab, 0, 1); // the Compute and Pressure Taps choices carry over
+}
+
+void OrificeModel::setUnit(int field, UnitIndex unit)
+{
+    if (field < 0 || field >= kFields)
+        return;
+    ChangeNotice notice(*this);
+    cboUnits[static_cast<size_t>(field)] = unit;
+    showField(field);
+}
+
+void OrificeModel::showField(int field)
+{
+    if (field < 0 || field >= kFields)
+        return;
+    const OrificeField& f = kFieldTable[static_cast<size_t>(field)];
+    const std::string text = unitFieldText(*f.kind, record.*f.member, cboUnits[static_cast<size_t>(field)]);
+    if (!text.empty())
+        txtData[static_cast<size_t>(field)] = text;
+}
+
+void OrificeModel::commitFieldText(int field)
+{
+    if (field < 0 || field >= kFields)
+        return;
+    const OrificeField& f = kFieldTable[static_cast<size_t>(field)];
+    readUnitFieldText(*f.kind, txtData[static_cast<size_t>(field)], cboUnits[static_cast<size_t>(field)], record.*f.member);
+    showField(field);
+}
+
+void OrificeModel::txtData_LostFocus(int field)
+{
+    if (field < 0 || field >= kFields)
+        return;
+    ChangeNotice notice(*this);
+    commitFieldText(field);
+    ComputeOrifice();
+}
+
+void OrificeModel::txtDisplay_LostFocus(int index)
+{
+    if (index != 5)
+        return;
+    ChangeNotice notice(*this);
+    readPlainText(txtDisplay[5], record.heatCapacityRatio);
+    setDirty();
+    ComputeOrifice();
+}
+
+bool OrificeModel::fieldLocked(int field) const
+{
+    const int first = field >= kGasFirstSolved ? kGasFirstSolved : kLiquidFirstSolved;
+    return field - first == compute;
+}
+
+void OrificeModel::optCompute_Click(int option)
+{
+    if (option < 0 || option > 5)
+        return;
+    ChangeNotice notice(*this);
+    compute = option % 3;
+    setDirty();
+    ComputeOrifice();
+}
+
+void OrificeModel::optMeterTap_Click(int option)
+{
+    if (option < 0 || option > 5)
+        return;
+    ChangeNotice notice(*this);
+    meterTap = option % 3;
+    setDirty();
+    ComputeOrifice();
+}
+
+void OrificeModel::cboElementMaterial_Click(int tabIndex, int material)
+{
+    if (tabIndex < 0 || tabIndex > 1 || material < 0 || material >= kMaterials)
+        return;
+    ChangeNotice notice(*this);
+    elementMaterial[static_cast<size_t>(tabIndex)] = material;
+    record.elementExpansion = materials()[static_cast<size_t>(material)].coefficient;
+    const int field = kElementExpansionField[static_cast<size_t>(tabIndex)];
+    showField(field);
+    if (material == kMaterials - 1)
+        focusRequest = "txtData(" + std::to_string(field) + ")"; // "Other!": the user types it
+    ComputeOrifice();
+}
+
+void OrificeModel::cboPipeMaterial_Click(int tabIndex, int material)
+{
+    if (tabIndex < 0 || tabIndex > 1 || material < 0 || material >= kMaterials)
+        return;
+    ChangeNotice notice(*this);
+    pipeMaterial[static_cast<size_t>(tabIndex)] = material;
+    record.pipeExpansion = materials()[static_cast<size_t>(material)].coefficient;
+    const int field = kPipeExpansionField[static_cast<size_t>(tabIndex)];
+    showField(field);
+    if (material == kMaterials - 1)
+        focusRequest = "txtData(" + std::to_string(field) + ")";
+    ComputeOrifice();
+}
+
+void OrificeModel::ComputeOrifice()
+{
+    ChangeNotice notice(*this);
+    ModelDisplay display(*this);
+    kestrova::ComputeOrifice(record, tab == 0 ? OrificeFluid::Liquid : OrificeFluid::Gas,
+                             static_cast<OrificeUnknown>(compute), static_cast<TapStyle>(meterTap), display);
+}
+
+void OrificeModel::setDirty()
+{
+    dirty = true;
+    ui_.setToolbarButtonEnabled("Save", true);
+}
+
+} // namespace kestrova

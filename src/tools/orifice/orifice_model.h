@@ -1,0 +1,68 @@
+#pragma once
+// frmOrificePlates without its window: the record, the texts of every field
+// on both tabs, the unit lists, the Compute and Pressure Taps options, the
+// materials, and the calculation run after each change.
+
+#include "frame/form_model.h"
+#include "tools/orifice/compute_orifice.h"
+#include "units/basConversions.h"
+
+#include <array>
+#include <string>
+
+namespace kestrova {
+
+class UserInterface;
+
+class OrificeModel : public FormModel {
+    Q_OBJECT
+
+public:
+    static constexpr const char* kTitle = "Orifice Plates";
+    static constexpr int kFields = 29;   // txtData(0) to txtData(28): liquid 0-13, gas 14-28
+    static constexpr int kDisplays = 13; // txtDisplay(0) to txtDisplay(12)
+    static constexpr int kMaterials = 20; // the last, "Other!", has no coefficient
+
+    struct Material {
+        const char* name;
+        double coefficient; // per °F
+    };
+    static const std::array<Material, kMaterials>& materials();
+
+    explicit OrificeModel(UserInterface& ui, QObject* parent = nullptr);
+
+    void Form_Load();
+    void Form_Activate(); // takes the global unit set
+    void SSTab1_Click(int tab);
+    void setUnit(int field, UnitIndex unit); // a unit list choice: the field is shown again
+    void txtData_LostFocus(int field);       // commits the typed text, then calculates
+    void txtDisplay_LostFocus(int index);    // txtDisplay(5), k
+    void optCompute_Click(int option);       // 0-2 liquid tab, 3-5 gas tab
+    void optMeterTap_Click(int option);
+    void cboElementMaterial_Click(int tabIndex, int material);
+    void cboPipeMaterial_Click(int tabIndex, int material);
+    void ComputeOrifice();
+
+    // Commits a field's text to the record and shows it again, without calculating.
+    void commitFieldText(int field);
+    void showField(int field);
+    bool fieldLocked(int field) const; // the solved quantity of its tab
+
+    OrificeData record{};
+    std::array<std::string, kFields> txtData;
+    std::array<UnitIndex, kFields> cboUnits{};
+    std::array<std::string, kDisplays> txtDisplay;
+    std::string txtErrorLiquid, txtErrorGas;
+    int tab = 0;
+    int compute = 0;  // the option's position on its tab: flow, differential pressure, orifice diameter
+    int meterTap = 0; // flange, D and D/2, corner
+    std::array<int, 2> elementMaterial{1, 1}, pipeMaterial{0, 0};
+    bool dirty = false;
+    std::string focusRequest; // a field that is to take the focus, e.g. "txtData(8)"
+
+private:
+    void setDirty();
+    UserInterface& ui_;
+};
+
+} // namespace kestrova
