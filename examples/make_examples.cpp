@@ -1,9 +1,10 @@
 // Writes the example project files of examples/ by driving the pressure drop
-// tool as a user would: typing texts, choosing options, and saving.
+// and orifice tools as a user would: typing texts, choosing options, and saving.
 // Usage: kestrova-make-examples OUTPUT_FOLDER
 
 #include "frame/global_units.h"
 #include "frame/scripted_user_interface.h"
+#include "tools/orifice/orifice_model.h"
 #include "tools/piping/minor_loss_store.h"
 #include "tools/pressure_drop/pressure_drop_model.h"
 
@@ -72,6 +73,29 @@ bool save(const Case& c, const QDir& folder)
 
 } // namespace
 
+// Water through a beta 0.5 flange-tapped plate in 4 in pipe, solved for the flow.
+bool saveOrificeExample(const QDir& folder)
+{
+    globalUnits() = GlobalUnits{};
+    ScriptedUserInterface ui;
+    OrificeModel tool(ui);
+    tool.Form_Load();
+    tool.Form_Activate();
+    for (const auto& [field, text] : std::map<int, std::string>{
+             {1, "10"}, {2, "2.013"}, {3, "68"}, {4, "62.4"}, {5, "1"}, {9, "4.026"}})
+    {
+        tool.txtData[static_cast<size_t>(field)] = text;
+        tool.txtData_LostFocus(field);
+    }
+    tool.txtProject[0] = "Cooling water meter";
+    tool.txtTag[0] = "FE-110";
+    tool.setStrFileName(folder.filePath("orifice-water-4in.ksv").toStdString());
+    if (tool.OpenSaveData("Save"))
+        return true;
+    std::cerr << "orifice-water-4in.ksv could not be written\n";
+    return false;
+}
+
 int main(int argc, char** argv)
 {
     QCoreApplication app(argc, argv);
@@ -95,5 +119,6 @@ int main(int argc, char** argv)
     bool ok = true;
     for (const Case& c : cases)
         ok = save(c, folder) && ok;
+    ok = saveOrificeExample(folder) && ok;
     return ok ? 0 : 1;
 }

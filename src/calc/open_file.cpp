@@ -5,6 +5,7 @@
 #include "calc/tool_report.h"
 #include "frame/project_file.h"
 #include "frame/scripted_user_interface.h"
+#include "tools/orifice/orifice_model.h"
 #include "tools/pressure_drop/pressure_drop_model.h"
 
 #include <QFileInfo>
@@ -17,6 +18,22 @@ std::string refusal(const std::string& message, bool& ok)
 {
     ok = false;
     return JsonObject().boolean("ok", false).text("error", message).str();
+}
+
+std::string openOrificeFile(const std::string& path, bool& ok)
+{
+    resetSharedState();
+    ScriptedUserInterface ui;
+    OrificeModel tool(ui);
+    tool.Form_Load();
+    tool.Form_Activate();
+    tool.setStrFileName(path);
+    if (!tool.OpenSaveData("Open"))
+        return refusal(ui.messages.empty() ? "The file could not be opened." : ui.messages.back().text, ok);
+    ok = true;
+    JsonObject result;
+    reportOrifice(tool, result);
+    return JsonObject().boolean("ok", true).integer("kind", 1).raw("result", result.str()).str();
 }
 
 } // namespace
@@ -33,10 +50,10 @@ std::string openProjectFile(const std::string& path, bool& ok)
     const std::int16_t kind = fileKindOf(bytes);
     if (kind < 1 || kind > 3)
         return refusal("This is not a Kestrova data file.", ok);
-    if (kind != static_cast<std::int16_t>(FileKind::PressureDrop))
-        return refusal(kind == 1 ? "Orifice plate files cannot be opened by kestrova-calc in this version."
-                                 : "Pump network files cannot be opened by kestrova-calc in this version.",
-                       ok);
+    if (kind == static_cast<std::int16_t>(FileKind::PumpNetwork))
+        return refusal("Pump network files cannot be opened by kestrova-calc in this version.", ok);
+    if (kind == static_cast<std::int16_t>(FileKind::OrificePlates))
+        return openOrificeFile(info.absoluteFilePath().toStdString(), ok);
 
     resetSharedState();
     ScriptedUserInterface ui;

@@ -1,5 +1,7 @@
 #include "frame/project_file.h"
 
+#include "frame/user_interface.h"
+
 #include <QFile>
 #include <QSaveFile>
 #include <QtEndian>
@@ -60,6 +62,13 @@ void RecordWriter::integer16(std::int16_t value)
     bytes_.append(raw, 2);
 }
 
+void RecordWriter::integer32(std::int32_t value)
+{
+    char raw[4];
+    qToLittleEndian(value, raw);
+    bytes_.append(raw, 4);
+}
+
 void RecordWriter::single(Single value)
 {
     char raw[4];
@@ -87,6 +96,11 @@ const char* RecordReader::take(qsizetype count)
 std::int16_t RecordReader::integer16()
 {
     return qFromLittleEndian<std::int16_t>(take(2));
+}
+
+std::int32_t RecordReader::integer32()
+{
+    return qFromLittleEndian<std::int32_t>(take(4));
 }
 
 Single RecordReader::single()
@@ -136,6 +150,36 @@ std::int16_t fileKindOf(const QByteArray& bytes)
     if (bytes.size() < 2)
         return 0;
     return qFromLittleEndian<std::int16_t>(bytes.constData());
+}
+
+bool saveProjectFile(UserInterface& ui, const std::string& title, const std::string& path, const QByteArray& bytes)
+{
+    const std::string error = writeFileSafely(QString::fromStdString(path), bytes);
+    if (error.empty())
+        return true;
+    ui.ask(title, "The file could not be saved: " + error + "\nThe data on screen are unchanged.", MessageIcon::Stop,
+           MessageButtons::Ok, MessageAnswer::Ok);
+    return false;
+}
+
+bool readProjectFileBytes(UserInterface& ui, const std::string& title, const std::string& path, std::int16_t kind,
+                          const std::string& wrongKind, QByteArray& bytes)
+{
+    if (!readWholeFile(QString::fromStdString(path), bytes)) {
+        ui.ask(title, "The file could not be read.", MessageIcon::Stop, MessageButtons::Ok, MessageAnswer::Ok);
+        return false;
+    }
+    if (fileKindOf(bytes) != kind) {
+        ui.ask(title, wrongKind, MessageIcon::Stop, MessageButtons::Ok, MessageAnswer::Ok);
+        return false;
+    }
+    return true;
+}
+
+void reportDamagedFile(UserInterface& ui, const std::string& title)
+{
+    ui.ask(title, "This " + title + " data file is damaged or incomplete and could not be opened.", MessageIcon::Stop,
+           MessageButtons::Ok, MessageAnswer::Ok);
 }
 
 } // namespace kestrova

@@ -28,6 +28,7 @@ public:
 class RecordWriter {
 public:
     void integer16(std::int16_t value);
+    void integer32(std::int32_t value);
     void single(Single value);
     void text(const std::string& utf8);
     const QByteArray& bytes() const { return bytes_; }
@@ -40,6 +41,7 @@ class RecordReader {
 public:
     explicit RecordReader(QByteArray bytes) : bytes_(std::move(bytes)) {}
     std::int16_t integer16();
+    std::int32_t integer32();
     Single single();
     std::string text();
     bool atEnd() const { return position_ >= bytes_.size(); }
@@ -62,5 +64,39 @@ std::string writeFileSafely(const QString& path, const QByteArray& bytes);
 
 // The kind at the start of a file, 0 for a file shorter than two bytes.
 std::int16_t fileKindOf(const QByteArray& bytes);
+
+class UserInterface;
+
+// A document tool's save: the bytes written safely, or a message under the
+// tool's title saying why not, the data on screen unchanged.
+bool saveProjectFile(UserInterface& ui, const std::string& title, const std::string& path, const QByteArray& bytes);
+
+// A document tool's open: the bytes after the file kind, or a message under
+// the tool's title (`wrongKind` when the file belongs to another tool) and
+// nothing. `read` turns the bytes into the tool's record; a file that ends
+// too soon is reported as damaged.
+template <typename Record, typename Read>
+bool openProjectFile(UserInterface& ui, const std::string& title, const std::string& path, std::int16_t kind,
+                     const std::string& wrongKind, Read read, Record& record);
+bool readProjectFileBytes(UserInterface& ui, const std::string& title, const std::string& path, std::int16_t kind,
+                          const std::string& wrongKind, QByteArray& bytes);
+void reportDamagedFile(UserInterface& ui, const std::string& title);
+
+template <typename Record, typename Read>
+bool openProjectFile(UserInterface& ui, const std::string& title, const std::string& path, std::int16_t kind,
+                     const std::string& wrongKind, Read read, Record& record)
+{
+    QByteArray bytes;
+    if (!readProjectFileBytes(ui, title, path, kind, wrongKind, bytes))
+        return false;
+    try {
+        RecordReader in(bytes.mid(2));
+        record = read(in);
+    } catch (const DamagedFileError&) {
+        reportDamagedFile(ui, title);
+        return false;
+    }
+    return true;
+}
 
 } // namespace kestrova

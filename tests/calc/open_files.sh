@@ -13,7 +13,12 @@ for f in "$examples"/*.ksv; do
   cmp -s "$f" "$work/$(basename "$f")" || fail "$(basename "$f") differs from the program's own save"
   out=$("$calc" --open "$f"); status=$?
   [ "$status" -eq 0 ] || fail "--open $(basename "$f") exited $status"
-  case "$out" in *'"ok": true, "kind": 2'*'"failed": false'*) ;; *) fail "--open $(basename "$f"): $out" ;; esac
+  case "$(basename "$f"):$out" in
+    orifice-*'"ok": true, "kind": 1'*'"txtErrorLiquid": ""'*) ;;
+    orifice-*) fail "--open $(basename "$f"): $out" ;;
+    *'"ok": true, "kind": 2'*'"failed": false'*) ;;
+    *) fail "--open $(basename "$f"): $out" ;;
+  esac
 done
 
 refused() { # file, expected message
@@ -24,7 +29,8 @@ refused() { # file, expected message
 refused "$work/missing.ksv" "File does not exist."
 : > "$work/empty.ksv"; refused "$work/empty.ksv" "This is not a Kestrova data file."
 printf '\004\000' > "$work/four.ksv"; refused "$work/four.ksv" "This is not a Kestrova data file."
-printf '\001\000rest' > "$work/orifice.ksv"; refused "$work/orifice.ksv" "Orifice plate files"
+printf '\001\000rest' > "$work/orifice.ksv"; refused "$work/orifice.ksv" "This Orifice Plates data file is damaged or incomplete"
+printf '\003\000rest' > "$work/network.ksv"; refused "$work/network.ksv" "Pump network files"
 head -c 300 "$examples/liquid-water-6in.ksv" > "$work/short.ksv"; refused "$work/short.ksv" "damaged or incomplete"
 refused "$work" "File does not exist."
 

@@ -186,6 +186,11 @@ void OrificeModel::txtDisplay_LostFocus(int index)
     ComputeOrifice();
 }
 
+const char* OrificeModel::unitTagOf(int field)
+{
+    return kFieldTable.at(static_cast<size_t>(field)).kind->tag;
+}
+
 bool OrificeModel::fieldLocked(int field) const
 {
     const int first = field >= kGasFirstSolved ? kGasFirstSolved : kLiquidFirstSolved;
@@ -246,6 +251,75 @@ void OrificeModel::ComputeOrifice()
     ModelDisplay display(*this);
     kestrova::ComputeOrifice(record, tab == 0 ? OrificeFluid::Liquid : OrificeFluid::Gas,
                              static_cast<OrificeUnknown>(compute), static_cast<TapStyle>(meterTap), display);
+}
+
+const std::array<const char*, 3>& OrificeModel::computeCaptions()
+{
+    static const std::array<const char*, 3> captions{"&Flow Rate:", "&Differential Pressure:", "&Orifice Diameter:"};
+    return captions;
+}
+
+const std::array<const char*, 3>& OrificeModel::tapCaptions()
+{
+    static const std::array<const char*, 3> captions{"&Flange Taps", "&D and D/2 Taps", "&Corner Taps"};
+    return captions;
+}
+
+void OrificeModel::cmdReset_Click()
+{
+    if (ui_.ask(kTitle, "Reset all input fields?", MessageIcon::Question, MessageButtons::OkCancel,
+                MessageAnswer::Ok) != MessageAnswer::Ok)
+        return;
+    ChangeNotice notice(*this);
+    reset();
+    setDirty();
+    fileName_.clear();
+}
+
+// Every input back to its start, except the fields a user keeps from case to
+// case: the reference temperature and the differential pressure, the
+// temperature and the two coefficients as the materials set them.
+void OrificeModel::reset()
+{
+    record.referenceTemperature = 68;
+    caption = kTitle;
+    const OrificeData kept = record;
+    record = OrificeData{};
+    record.referenceTemperature = kept.referenceTemperature;
+    record.differentialPressure = kept.differentialPressure;
+    record.permanentLoss = kept.permanentLoss;
+    record.temperature = kept.temperature;
+    for (int t = 0; t < 2; ++t) {
+        elementMaterial[static_cast<size_t>(t)] = 1;
+        pipeMaterial[static_cast<size_t>(t)] = 0;
+    }
+    record.elementExpansion = materials()[1].coefficient;
+    record.pipeExpansion = materials()[0].coefficient;
+    for (int i = 0; i < kFields; ++i)
+        showField(i);
+    for (std::string& text : txtDisplay)
+        text.clear();
+    compute = meterTap = 0;
+    propertiesCaption = {"Properties", "Properties"};
+    txtProject = {};
+    txtTag = {};
+}
+
+bool OrificeModel::Form_QueryUnload()
+{
+    if (dirty) {
+        const MessageAnswer answer = ui_.ask(kTitle, "Save data before closing?", MessageIcon::Question,
+                                             MessageButtons::YesNoCancel, MessageAnswer::Yes);
+        if (answer == MessageAnswer::Cancel)
+            return false;
+        if (answer == MessageAnswer::Yes && !(fileName_.empty() ? ui_.runSaveAs() : OpenSaveData("Save")))
+            return false;
+    }
+    ChangeNotice notice(*this);
+    reset();
+    ui_.setToolbarButtonEnabled("Save", false);
+    ui_.setToolbarButtonEnabled("Print", false);
+    return true;
 }
 
 void OrificeModel::setDirty()

@@ -3,6 +3,7 @@
 // on both tabs, the unit lists, the Compute and Pressure Taps options, the
 // materials, and the calculation run after each change.
 
+#include "frame/document_tool.h"
 #include "frame/form_model.h"
 #include "tools/orifice/compute_orifice.h"
 #include "units/basConversions.h"
@@ -14,7 +15,7 @@ namespace kestrova {
 
 class UserInterface;
 
-class OrificeModel : public FormModel {
+class OrificeModel : public FormModel, public DocumentTool {
     Q_OBJECT
 
 public:
@@ -42,11 +43,26 @@ public:
     void cboElementMaterial_Click(int tabIndex, int material);
     void cboPipeMaterial_Click(int tabIndex, int material);
     void ComputeOrifice();
+    void cmdReset_Click();    // asks first
+    bool Form_QueryUnload();  // the close question; false keeps the form
+
+    // The frame's side: file name, the kind 1 file, the data sheet.
+    std::string strFileName() const override { return fileName_; }
+    void setStrFileName(const std::string& path) override { fileName_ = path; }
+    bool OpenSaveData(const std::string& operation) override;
+    void PrintDataSheet(const DataSheetPrinter& printer) override; // the data sheet of the tab in front
+    std::string toolTitle() const override { return kTitle; }
+    std::int16_t fileKind() const override { return 1; }
+
+    // The captions of the options, accelerator sign first.
+    static const std::array<const char*, 3>& computeCaptions();
+    static const std::array<const char*, 3>& tapCaptions();
 
     // Commits a field's text to the record and shows it again, without calculating.
     void commitFieldText(int field);
     void showField(int field);
     bool fieldLocked(int field) const; // the solved quantity of its tab
+    static const char* unitTagOf(int field); // the unit list of cboUnits(field)
 
     OrificeData record{};
     std::array<std::string, kFields> txtData;
@@ -58,11 +74,19 @@ public:
     int meterTap = 0; // flange, D and D/2, corner
     std::array<int, 2> elementMaterial{1, 1}, pipeMaterial{0, 0};
     bool dirty = false;
+    std::array<std::string, 2> txtProject, txtTag; // liquid tab, gas tab
+    std::string liquidName, gasName;
+    std::array<std::string, 2> propertiesCaption{"Properties", "Properties"}; // Frame1(0), Frame1(10)
+    std::string caption = kTitle;
     std::string focusRequest; // a field that is to take the focus, e.g. "txtData(8)"
 
 private:
     void setDirty();
+    void reset();
+    bool saveFile();
+    bool openFile();
     UserInterface& ui_;
+    std::string fileName_;
 };
 
 } // namespace kestrova

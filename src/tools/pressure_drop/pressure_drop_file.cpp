@@ -111,36 +111,15 @@ bool PressureDropModel::saveFile()
                          props.acentricFactor})
         out.single(value);
 
-    const std::string error = writeFileSafely(QString::fromStdString(fileName_), out.bytes());
-    if (!error.empty()) {
-        ui_.ask(kTitle, "The file could not be saved: " + error + "\nThe data on screen are unchanged.",
-                MessageIcon::Stop, MessageButtons::Ok, MessageAnswer::Ok);
-        return false;
-    }
-    return true;
+    return saveProjectFile(ui_, kTitle, fileName_, out.bytes());
 }
 
 bool PressureDropModel::openFile()
 {
-    QByteArray bytes;
-    if (!readWholeFile(QString::fromStdString(fileName_), bytes)) {
-        ui_.ask(kTitle, "The file could not be read.", MessageIcon::Stop, MessageButtons::Ok, MessageAnswer::Ok);
-        return false;
-    }
-    if (fileKindOf(bytes) != kPressureDropKind) {
-        ui_.ask(kTitle, "This is not a Pressure Drop data file.", MessageIcon::Stop, MessageButtons::Ok,
-                MessageAnswer::Ok);
-        return false;
-    }
     PressureDropFile file;
-    try {
-        RecordReader in(bytes.mid(2));
-        file = readRecord(in);
-    } catch (const DamagedFileError&) {
-        ui_.ask(kTitle, "This Pressure Drop data file is damaged or incomplete and could not be opened.",
-                MessageIcon::Stop, MessageButtons::Ok, MessageAnswer::Ok);
+    if (!openProjectFile(ui_, kTitle, fileName_, kPressureDropKind, "This is not a Pressure Drop data file.", readRecord,
+                         file))
         return false;
-    }
 
     // The tab and the options, each through its click routine.
     SSTab1_Click(file.tab);

@@ -1,13 +1,20 @@
 // The orifice tool driven as a user would: texts typed in chosen units, the
 // Compute and material choices, and the fields both tabs share.
 
+#include "datasheets/data_sheet.h"
 #include "frame/global_units.h"
+#include "frame/project_file.h"
+#include "frame/settings_store.h"
 #include "frame/scripted_user_interface.h"
 #include "tools/orifice/orifice_model.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
 
 using namespace kestrova;
 
@@ -96,4 +103,147 @@ TEST_F(OrificeToolTest, OtherMaterialZeroesItsCoefficientAndAsksForIt)
     tool.cboElementMaterial_Click(0, 7); // yellow brass
     EXPECT_EQ(tool.record.elementExpansion, Single(1.05e-5));
     EXPECT_EQ(data(8), "1.05E-05");
+}
+
+class OrificeFileTest : public OrificeToolTest {
+protected:
+    std::string path(const char* name) const { return dir.filePath(name).toStdString(); }
+    void enterWater()
+    {
+        for (const auto& [field, text] : std::vector<std::pair<int, std::string>>{
+                 {1, "10"}, {2, "2.013"}, {3, "68"}, {4, "62.4"}, {5, "1"}, {9, "4.026"}})
+            type(field, text);
+    }
+    QTemporaryDir dir;
+};
+
+TEST_F(OrificeFileTest, TheRecordIsLaidOutByteForByte)
+{
+    enterWater();
+    tool.txtProject[0] = "Meter";
+    tool.setStrFileName(path("case.ksv"));
+    ASSERT_TRUE(tool.OpenSaveData("Save"));
+    QByteArray bytes;
+    ASSERT_TRUE(readWholeFile(QString::fromStdString(path("case.ksv")), bytes));
+    // kind, tab, options, four materials, 19 singles, Tc and Pc, four texts, two names,
+    // the compound position and five singles.
+    ASSERT_EQ(bytes.size(), 2 + 2 + 2 + 2 + 8 + 76 + 8 + (4 + 5) + 3 * 4 + 2 * 4 + 4 + 20);
+    RecordReader in(bytes);
+    EXPECT_EQ(in.integer16(), 1);
+    EXPECT_EQ(in.integer16(), 0);
+    EXPECT_EQ(in.integer16(), 0); // flow solved
+    EXPECT_EQ(in.integer16(), 0); // flange taps
+    EXPECT_EQ(in.integer16(), 1); // stainless steel plate, both tabs
+    EXPECT_EQ(in.integer16(), 1);
+    EXPECT_EQ(in.integer16(), 0); // carbon steel pipe, both tabs
+    EXPECT_EQ(in.integer16(), 0);
+    EXPECT_NEAR(in.single(), tool.record.liquidFlow, 0);
+    EXPECT_FALSE(tool.dirty);
+    EXPECT_FALSE(ui.toolbar["Save"]);
+    EXPECT_EQ(tool.caption, "Orifice Plates: case.ksv");
+}
+
+TEST_F(OrificeFileTest, ReopeningGivesTheSameFiguresAndKeepsTypedCoefficients)
+{
+    enterWater();
+    tool.SSTab1_Click(1);
+    tool.optCompute_Click(4);          // the gas tab's differential pressure option
+    tool.cboPipeMaterial_Click(1, 19); // "Other!", then a typed coefficient
+    type(25, "5.5E-06");
+    tool.setStrFileName(path("gas.ksv"));
+    ASSERT_TRUE(tool.OpenSaveData("Save"));
+    QByteArray bytes;
+    ASSERT_TRUE(readWholeFile(QString::fromStdString(path("gas.ksv")), bytes));
+    RecordReader in(bytes);
+    in.integer16();
+    EXPECT_EQ(in.integer16(), 1);
+    EXPECT_EQ(in.integer16(), 4); // stored as the control array numbers it
+
+    ScriptedUserInterface other;
+    OrificeModel again(other);
+    again.Form_Load();
+    again.Form_Activate();
+    again.setStrFileName(path("gas.ksv"));
+    ASSERT_TRUE(again.OpenSaveData("Open"));
+    EXPECT_EQ(again.tab, 1);
+    EXPECT_EQ(again.compute, 1);
+    EXPECT_EQ(again.pipeMaterial[1], 19);
+    EXPECT_EQ(again.record.pipeExpansion, Single(5.5e-6)); // the record wins over the list's table
+    EXPECT_EQ(again.txtData[25], "5.50E-06");
+    EXPECT_EQ(again.record.pipeID, tool.record.pipeID);
+    EXPECT_FALSE(again.dirty);
+}
+
+TEST_F(OrificeFileTest, AnotherToolsFileIsRefusedAndChangesNothing)
+{
+    enterWater();
+    const Single flow = tool.record.liquidFlow;
+    QFile file(dir.filePath("drop.ksv"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(QByteArray("\x02\x00rest", 6));
+    file.close();
+    tool.setStrFileName(path("drop.ksv"));
+    EXPECT_FALSE(tool.OpenSaveData("Open"));
+    ASSERT_EQ(ui.messages.size(), 1u);
+    EXPECT_EQ(ui.messages[0].title, "Orifice Plates");
+    EXPECT_EQ(ui.messages[0].text, "This is not an Orifice Plate data file.");
+    EXPECT_EQ(tool.record.liquidFlow, flow);
+}
+
+TEST_F(OrificeFileTest, ResetAndTheCloseQuestion)
+{
+    enterWater();
+    ui.answers = {MessageAnswer::Cancel};
+    tool.cmdReset_Click();
+    EXPECT_EQ(tool.record.pipeID, Single(4.026)); // Cancel keeps everything
+    ui.answers = {MessageAnswer::Ok};
+    tool.cmdReset_Click();
+    EXPECT_EQ(tool.record.pipeID, 0);
+    EXPECT_EQ(tool.record.differentialPressure, 10); // kept from case to case
+    EXPECT_EQ(tool.record.temperature, 68);
+    EXPECT_EQ(tool.txtDisplay[0], "");
+    EXPECT_TRUE(tool.dirty);
+
+    ui.answers = {MessageAnswer::Cancel};
+    EXPECT_FALSE(tool.Form_QueryUnload());
+    EXPECT_EQ(ui.messages.back().text, "Save data before closing?");
+    ui.answers = {MessageAnswer::No};
+    EXPECT_TRUE(tool.Form_QueryUnload());
+    EXPECT_FALSE(ui.toolbar["Save"]);
+}
+
+TEST_F(OrificeFileTest, DataSheetRowsFollowTheirTables)
+{
+    enterWater();
+    tool.liquidName = "Water";
+    SettingsStore store(dir.filePath("Kestrova.ini"));
+    DataSheetPrinter printer(ui, store, dir.path());
+    tool.PrintDataSheet(printer);
+    ASSERT_EQ(ui.reports.size(), 1u);
+    EXPECT_EQ(ui.reports[0].title, "Orifice Plate - Liquid Flow");
+    const DataSheetColumns row = ui.reports[0].row.value();
+    const auto column = [&](const std::string& name) {
+        for (const auto& c : row)
+            if (c.first == name)
+                return c.second;
+        return std::string("(missing)");
+    };
+    EXPECT_EQ(column("Computation"), "Flow Rate");
+    EXPECT_EQ(column("TapType"), "Flange Taps");
+    EXPECT_EQ(column("ElementMat"), "Stainless Steel");
+    EXPECT_EQ(column("Flowrate"), tool.txtData[0]);
+    EXPECT_EQ(column("PipeDiameter"), "4.0260");
+    EXPECT_EQ(column("PipeDiameterU"), "in");
+    EXPECT_EQ(column("BetaRatio"), "0.5000");
+    const auto layout = readReportTemplate(QDir(KESTROVA_DATA_DIR).filePath("orpliquid.rpt"));
+    ASSERT_TRUE(layout.has_value());
+    EXPECT_TRUE(dataSheetHtml(*layout, row).has_value());
+
+    tool.SSTab1_Click(1);
+    tool.PrintDataSheet(printer);
+    EXPECT_EQ(ui.reports[1].table, "ORPGas");
+    const auto gasLayout = readReportTemplate(QDir(KESTROVA_DATA_DIR).filePath("orpgas.rpt"));
+    ASSERT_TRUE(gasLayout.has_value());
+    EXPECT_TRUE(dataSheetHtml(*gasLayout, ui.reports[1].row.value()).has_value());
+    EXPECT_EQ(stagedRowCount(printer.stagingPath(), "ORPGas"), 0);
 }

@@ -1,0 +1,201 @@
+// The orifice tool's kind 1 project file and its data sheets.
+
+#include "tools/orifice/orifice_model.h"
+
+#include "datasheets/data_sheet.h"
+#include "frame/project_file.h"
+#include "frame/user_interface.h"
+#include "numeric/display_mask.h"
+#include "tools/properties/phys_props.h"
+#include "tools/properties/physical_properties_model.h"
+#include "units/basLoadUnits.h"
+
+#include <QFileInfo>
+
+namespace kestrova {
+
+namespace {
+
+constexpr std::int16_t kOrificeKind = 1;
+
+// Everything of the file after its kind, in file order.
+struct OrificeFile {
+    std::int16_t tab = 0, computeOption = 0, tapOption = 0;
+    std::array<std::int16_t, 4> materials{}; // element(0), element(1), pipe(0), pipe(1)
+    OrificeData record{};
+    std::array<std::string, 4> projectAndTags; // project(0), tag(0), project(1), tag(1)
+    std::string liquidName, gasName;
+    std::int32_t compoundPosition = 0;
+    Single heatCapacity, acentricFactor, molecularWeight, criticalTemperature, criticalPressure;
+};
+
+OrificeFile readRecord(RecordReader& in)
+{
+    OrificeFile f;
+    f.tab = in.integer16();
+    f.computeOption = in.integer16();
+    f.tapOption = in.integer16();
+    for (std::int16_t& m : f.materials)
+        m = in.integer16();
+    for (Single* field : f.record.fields())
+        *field = in.single();
+    f.criticalTemperature = in.single(); // written twice; the later copy stands
+    f.criticalPressure = in.single();
+    for (std::string& text : f.projectAndTags)
+        text = in.text();
+    f.liquidName = in.text();
+    f.gasName = in.text();
+    f.compoundPosition = in.integer32();
+    f.heatCapacity = in.single();
+    f.acentricFactor = in.single();
+    f.molecularWeight = in.single();
+    f.criticalTemperature = in.single();
+    f.criticalPressure = in.single();
+    return f;
+}
+
+} // namespace
+
+bool OrificeModel::OpenSaveData(const std::string& operation)
+{
+    ChangeNotice notice(*this);
+    const bool ok = (operation == "Save" || operation == "Save As") ? saveFile() : openFile();
+    if (!ok)
+        return false;
+    dirty = false;
+    ui_.setToolbarButtonEnabled("Save", false);
+    caption = std::string(kTitle) + ": " + QFileInfo(QString::fromStdString(fileName_)).fileName().toStdString();
+    return true;
+}
+
+bool OrificeModel::saveFile()
+{
+    RecordWriter out;
+    out.integer16(kOrificeKind);
+    out.integer16(static_cast<std::int16_t>(tab));
+    out.integer16(static_cast<std::int16_t>(compute + 3 * tab)); // as the control arrays number them
+    out.integer16(static_cast<std::int16_t>(meterTap + 3 * tab));
+    for (int m : {elementMaterial[0], elementMaterial[1], pipeMaterial[0], pipeMaterial[1]})
+        out.integer16(static_cast<std::int16_t>(m));
+    for (Single* field : record.fields())
+        out.single(*field);
+    const PhysProps& props = physProps();
+    out.single(props.criticalTemperature);
+    out.single(props.criticalPressure);
+    for (int t = 0; t < 2; ++t) {
+        out.text(txtProject[static_cast<size_t>(t)]);
+        out.text(txtTag[static_cast<size_t>(t)]);
+    }
+    out.text(liquidName);
+    out.text(gasName);
+    out.integer32(rememberedCompoundPosition());
+    for (Single value : {props.heatCapacity, props.acentricFactor, props.molecularWeight, props.criticalTemperature,
+                         props.criticalPressure})
+        out.single(value);
+    return saveProjectFile(ui_, kTitle, fileName_, out.bytes());
+}
+
+bool OrificeModel::openFile()
+{
+    OrificeFile file;
+    if (!openProjectFile(ui_, kTitle, fileName_, kOrificeKind, "This is not an Orifice Plate data file.", readRecord,
+                         file))
+        return false;
+    // The other tab first, so that the tab handler runs in every case; then
+    // the options and materials through their handlers.
+    const int shown = std::clamp<int>(file.tab, 0, 1);
+    SSTab1_Click(1 - shown);
+    SSTab1_Click(shown);
+    optCompute_Click(std::clamp<int>(file.computeOption, 0, 5));
+    optMeterTap_Click(std::clamp<int>(file.tapOption, 0, 5));
+    for (int t = 0; t < 2; ++t) {
+        cboElementMaterial_Click(t, std::clamp<int>(file.materials[static_cast<size_t>(t)], 0, kMaterials - 1));
+        cboPipeMaterial_Click(t, std::clamp<int>(file.materials[static_cast<size_t>(2 + t)], 0, kMaterials - 1));
+    }
+    focusRequest.clear();
+    record = file.record; // whole, so that typed coefficients of "Other!" survive
+    txtDisplay[5] = plainNumberText(record.heatCapacityRatio);
+    for (int t = 0; t < 2; ++t) {
+        txtProject[static_cast<size_t>(t)] = file.projectAndTags[static_cast<size_t>(2 * t)];
+        txtTag[static_cast<size_t>(t)] = file.projectAndTags[static_cast<size_t>(2 * t + 1)];
+    }
+    liquidName = file.liquidName;
+    gasName = file.gasName;
+    rememberedCompoundPosition() = file.compoundPosition;
+    PhysProps& props = physProps();
+    props.heatCapacity = file.heatCapacity;
+    props.acentricFactor = file.acentricFactor;
+    props.molecularWeight = file.molecularWeight;
+    props.criticalTemperature = file.criticalTemperature;
+    props.criticalPressure = file.criticalPressure;
+    propertiesCaption = {"Properties:  " + liquidName, "Properties:  " + gasName};
+    for (int i = 0; i < kFields; ++i)
+        showField(i);
+    dirty = false;
+    ui_.setToolbarButtonEnabled("Save", false);
+    ComputeOrifice();
+    return true;
+}
+
+void OrificeModel::PrintDataSheet(const DataSheetPrinter& printer)
+{
+    DataSheetColumns row;
+    const auto text = [&](const char* column, const std::string& value) { row.emplace_back(column, value); };
+    const auto unitText = [&](int field) {
+        const std::vector<std::string>& list = unitList(unitTagOf(field));
+        const UnitIndex index = cboUnits[static_cast<size_t>(field)];
+        return index >= 0 && index < static_cast<int>(list.size()) ? list[static_cast<size_t>(index)] : std::string();
+    };
+    const auto field = [&](const char* column, const char* unit, int index) {
+        text(column, txtData[static_cast<size_t>(index)]);
+        text(unit, unitText(index));
+    };
+    const int g = tab == 0 ? 0 : 14; // first field of the tab
+    const size_t t = static_cast<size_t>(tab);
+    std::string computation = captionWithoutAccelerator(computeCaptions()[static_cast<size_t>(compute)]);
+    computation.pop_back(); // and without its colon
+    text("Project", txtProject[t]);
+    text("Tag", txtTag[t]);
+    text("Fluid", tab == 0 ? liquidName : gasName);
+    text("Computation", computation);
+    field("Flowrate", "FUnits", g);
+    field("delP", "delPU", g + 1);
+    field("OriDiameter", "OriDiameterU", g + 2);
+    field("Temp", "TempU", g + 3);
+    const int p = tab == 0 ? g + 4 : g + 5; // the gas tab has the inlet pressure before its density
+    if (tab == 1)
+        field("UpPress", "UpPressU", g + 4);
+    field("Density", "DUnits", p);
+    field("Viscosity", "VisUnits", p + 1);
+    if (tab == 1)
+        text("kRatio", txtDisplay[5]);
+    field("RefT", "RefTU", p + 2);
+    if (tab == 0)
+        field("VentHoleDia", "VentHoleU", p + 3);
+    else
+        field("DrainHoleDia", "DrainHoleU", p + 3);
+    text("ElementMat", materials()[static_cast<size_t>(elementMaterial[t])].name);
+    field("EleExpanCoef", "EleExpanCoefU", p + 4);
+    text("TapType", captionWithoutAccelerator(tapCaptions()[static_cast<size_t>(meterTap)]));
+    field("PipeDiameter", "PipeDiameterU", p + 5);
+    text("PipeMat", materials()[static_cast<size_t>(pipeMaterial[t])].name);
+    field("PipeExpanCoef", "PipeExpanU", p + 6);
+    const int d = tab == 0 ? 0 : 6; // first result display of the tab
+    text("BetaRatio", txtDisplay[static_cast<size_t>(d)]);
+    text("DisCd", txtDisplay[static_cast<size_t>(d + 1)]);
+    text("RenbD", txtDisplay[static_cast<size_t>(d + 2)]);
+    text("Rensd", txtDisplay[static_cast<size_t>(d + 3)]);
+    if (tab == 1) {
+        text("GasExpan", txtDisplay[10]);
+        text("PressRatio", txtDisplay[11]);
+    }
+    text("MinLoss", txtDisplay[tab == 0 ? 4 : 12]);
+    field("VelocityD", "VelDU", p + 7);
+    field("Velocitysd", "VelsdU", p + 8);
+    field("PressLoss", "PressLossU", p + 9);
+    printer.print(tab == 0 ? DataSheetReport{"ORPLiquid", "orpliquid.rpt", "Orifice Plate - Liquid Flow"}
+                           : DataSheetReport{"ORPGas", "orpgas.rpt", "Orifice Plate - Gas/Vapor Flow"},
+                  std::move(row));
+}
+
+} // namespace kestrova
