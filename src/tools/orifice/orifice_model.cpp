@@ -4,6 +4,8 @@
 #include "frame/global_units.h"
 #include "frame/unit_field.h"
 #include "frame/user_interface.h"
+#include "numeric/display_mask.h"
+#include "tools/properties/phys_props.h"
 
 #include <algorithm>
 
@@ -263,6 +265,61 @@ const std::array<const char*, 3>& OrificeModel::tapCaptions()
 {
     static const std::array<const char*, 3> captions{"&Flange Taps", "&D and D/2 Taps", "&Corner Taps"};
     return captions;
+}
+
+void OrificeModel::cmdProperties_Click(int index)
+{
+    if (index < 0 || index > 1)
+        return;
+    ChangeNotice notice(*this);
+    propertiesCancelled() = false;
+    ui_.GetPhysicalProperties(index == 0 ? FluidKind::Liquid : FluidKind::Gas, record.temperature);
+    if (!propertiesCancelled()) {
+        const PhysProps& props = physProps();
+        if (index == 0) {
+            record.liquidDensity = props.liquidDensity;
+            record.liquidViscosity = props.liquidViscosity;
+            showField(4);
+            showField(5);
+            if (!props.liquidName.empty())
+                propertiesCaption[0] = "Properties:  " + (liquidName = props.liquidName);
+        } else {
+            record.gasViscosity = props.vaporViscosity;
+            showField(20);
+            if (!props.gasName.empty())
+                propertiesCaption[1] = "Properties:  " + (gasName = props.gasName);
+        }
+    }
+    setDirty();
+}
+
+void OrificeModel::cmdTable_Click(int index)
+{
+    if (index < 0 || index > 3)
+        return;
+    ChangeNotice notice(*this);
+    if (index <= 1) {
+        const Single id = ui_.SelectPipeID("ID");
+        if (id != 0) {
+            record.pipeID = id;
+            showField(9);
+            showField(24);
+        }
+    } else if (index == 2) {
+        const Single k = ui_.GetHeatCapRatioValue(record.temperature, record.inletPressure);
+        if (k != 0) { // written as text to k's field, whose change handler then runs
+            txtDisplay[5] = plainNumberText(k);
+            readPlainText(txtDisplay[5], record.heatCapacityRatio);
+        }
+    } else {
+        const Single density = ui_.GetGasDensity(record.temperature, record.inletPressure);
+        if (density != 0) {
+            record.gasDensity = density;
+            showField(19);
+        }
+    }
+    setDirty();
+    ComputeOrifice();
 }
 
 void OrificeModel::cmdReset_Click()

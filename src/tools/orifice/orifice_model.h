@@ -43,6 +43,8 @@ public:
     void cboElementMaterial_Click(int tabIndex, int material);
     void cboPipeMaterial_Click(int tabIndex, int material);
     void ComputeOrifice();
+    void cmdProperties_Click(int index); // 0 liquid tab, 1 gas tab: the physical properties tool
+    void cmdTable_Click(int index);      // 0, 1 pipe sizes; 2 the heat capacity ratio; 3 the gas density
     void cmdReset_Click();    // asks first
     bool Form_QueryUnload();  // the close question; false keeps the form
 

@@ -7,6 +7,7 @@
 #include "frame/settings_store.h"
 #include "frame/scripted_user_interface.h"
 #include "tools/orifice/orifice_model.h"
+#include "tools/properties/phys_props.h"
 
 #include <gtest/gtest.h>
 
@@ -246,4 +247,38 @@ TEST_F(OrificeFileTest, DataSheetRowsFollowTheirTables)
     ASSERT_TRUE(gasLayout.has_value());
     EXPECT_TRUE(dataSheetHtml(*gasLayout, ui.reports[1].row.value()).has_value());
     EXPECT_EQ(stagedRowCount(printer.stagingPath(), "ORPGas"), 0);
+}
+
+TEST_F(OrificeToolTest, DataButtonsTakeWhatTheDialogToolsReturn)
+{
+    ui.pipeAnswers = {4.026, 0}; // a size, then a cancel
+    tool.cmdTable_Click(0);
+    EXPECT_EQ(ui.pipeSelectors.back(), "ID");
+    EXPECT_EQ(data(9), "4.0260");
+    EXPECT_EQ(data(24), "4.0260"); // both tabs show the shared diameter
+    tool.cmdTable_Click(1);
+    EXPECT_EQ(tool.record.pipeID, Single(4.026)); // a cancel changes nothing
+
+    ui.ratioAnswers = {1.31};
+    tool.cmdTable_Click(2);
+    EXPECT_EQ(tool.txtDisplay[5], "1.31");
+    EXPECT_EQ(tool.record.heatCapacityRatio, Single(1.31));
+    ui.densityAnswers = {0.0763};
+    tool.cmdTable_Click(3);
+    EXPECT_EQ(data(19), "0.0763");
+    EXPECT_TRUE(tool.dirty);
+
+    physProps() = PhysProps{};
+    physProps().liquidName = "Water";
+    physProps().liquidDensity = 62.2292;
+    physProps().liquidViscosity = 0.000893;
+    ui.propertiesApplied = {true, false};
+    tool.cmdProperties_Click(0);
+    EXPECT_EQ(data(4), "62.2292");
+    EXPECT_EQ(data(5), "8.9300E-01");
+    EXPECT_EQ(tool.propertiesCaption[0], "Properties:  Water");
+    physProps().vaporViscosity = 0.00002;
+    tool.cmdProperties_Click(1); // cancelled
+    EXPECT_EQ(tool.record.gasViscosity, 0);
+    EXPECT_EQ(tool.propertiesCaption[1], "Properties");
 }
