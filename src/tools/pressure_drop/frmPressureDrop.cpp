@@ -1,5 +1,4 @@
 #include "tools/pressure_drop/frmPressureDrop.h"
-#include "frame/field_conventions.h"
 
 #include "frame/user_interface.h"
 #include "tools/pressure_drop/pressure_drop_model.h"
@@ -27,12 +26,6 @@ namespace {
 constexpr const char* kResultsStatus = "Calculated Results";
 const QColor kTint(192, 192, 255);
 
-int indexOf(const QString& name)
-{
-    const int open = name.indexOf('(');
-    return open < 0 ? -1 : name.mid(open + 1, name.size() - open - 2).toInt();
-}
-
 bool isResultField(int index)
 {
     static const std::set<int> results{9, 10, 18, 19, 20, 21, 22, 23, 24, 25, 36, 37, 38, 39, 40, 41};
@@ -42,7 +35,7 @@ bool isResultField(int index)
 } // namespace
 
 frmPressureDrop::frmPressureDrop(PressureDropModel& model, UserInterface& ui, QWidget* parent)
-    : QWidget(parent), model_(model), ui_(ui), conventions_(ui)
+    : DocumentForm(ui, parent), model_(model)
 {
     setObjectName("frmPressureDrop");
     setWindowTitle(PressureDropModel::kTitle);
@@ -70,11 +63,6 @@ QSize frmPressureDrop::sizeHint() const
     return QWidget::sizeHint().expandedTo(QSize(900, 560));
 }
 
-void frmPressureDrop::watchStatus(QWidget* widget, const QString& text)
-{
-    conventions_.setStatusText(widget, text, this);
-}
-
 QGroupBox* frmPressureDrop::frame(int index, const QString& caption)
 {
     auto* box = new QGroupBox(caption);
@@ -83,23 +71,6 @@ QGroupBox* frmPressureDrop::frame(int index, const QString& caption)
     const int kind = index % 3;
     watchStatus(box, kind == 0 ? "Fluid Data Input" : kind == 1 ? "Pipe/Tube Data Input" : kResultsStatus);
     return box;
-}
-
-QLineEdit* frmPressureDrop::lineEdit(const QString& name, bool readOnly)
-{
-    auto* edit = new QLineEdit;
-    edit->setObjectName(name);
-    edit->setReadOnly(readOnly);
-    edit->setAlignment(Qt::AlignRight);
-    edit->setMinimumWidth(110);
-    if (readOnly) {
-        edit->setFocusPolicy(Qt::NoFocus);
-        QPalette p = edit->palette();
-        p.setColor(QPalette::Base, palette().color(QPalette::Window).lighter(104));
-        edit->setPalette(p);
-    }
-    edit->installEventFilter(this);
-    return edit;
 }
 
 QPushButton* frmPressureDrop::tableButton(int index)
@@ -124,14 +95,8 @@ void frmPressureDrop::fieldRow(QGridLayout* grid, int row, const QString& label,
     QLineEdit* edit = lineEdit(QString("txtData(%1)").arg(field), isResultField(field));
     txtData_[field] = edit;
     caption->setBuddy(edit);
-    auto* units = new QComboBox;
-    units->setObjectName(QString("cboUnits(%1)").arg(field));
-    for (const std::string& unit : unitList(pressureDropField(field).kind->tag))
-        units->addItem(QString::fromStdString(unit));
-    units->setFocusPolicy(Qt::ClickFocus);
-    connect(units, &QComboBox::activated, this, [this, field](int index) {
-        model_.setUnit(field, static_cast<UnitIndex>(index));
-    });
+    QComboBox* units = unitList(QString("cboUnits(%1)").arg(field), pressureDropField(field).kind->tag,
+                                [this, field](int index) { model_.setUnit(field, static_cast<UnitIndex>(index)); });
     cboUnits_[field] = units;
     grid->addWidget(caption, row, 0);
     grid->addWidget(edit, row, 1);
@@ -409,11 +374,8 @@ void frmPressureDrop::render()
     if (parentWidget())
         parentWidget()->setWindowTitle(windowTitle());
     tabs_->setCurrentIndex(m.tab);
-    const auto showText = [](QLineEdit* edit, const TextControl& control) {
-        // A field that the user is typing in keeps what is typed until it is left.
-        const QString text = QString::fromStdString(control.text);
-        if (edit->text() != text && !(edit->hasFocus() && edit->isModified()))
-            edit->setText(text);
+    const auto showControl = [](QLineEdit* edit, const TextControl& control) {
+        showText(edit, control.text); // a field that the user is typing in keeps what is typed
         edit->setEnabled(control.enabled);
         QPalette p = edit->palette();
         if (control.shade == FieldShade::Tinted)
@@ -425,15 +387,15 @@ void frmPressureDrop::render()
             edit->setToolTip(QString::fromStdString(control.toolTip));
     };
     for (auto& [index, edit] : txtData_)
-        showText(edit, m.txtData[static_cast<size_t>(index)]);
+        showControl(edit, m.txtData[static_cast<size_t>(index)]);
     for (auto& [index, edit] : txtDisplay_)
-        showText(edit, m.txtDisplay[static_cast<size_t>(index)]);
+        showControl(edit, m.txtDisplay[static_cast<size_t>(index)]);
     for (int t = 0; t < 3; ++t) {
-        showText(txtProject_[t], m.txtProject[static_cast<size_t>(t)]);
-        showText(txtTag_[t], m.txtTag[static_cast<size_t>(t)]);
+        showControl(txtProject_[t], m.txtProject[static_cast<size_t>(t)]);
+        showControl(txtTag_[t], m.txtTag[static_cast<size_t>(t)]);
     }
-    showText(txtLiquid_, m.txtLiquid);
-    showText(txtGas_, m.txtGas);
+    showControl(txtLiquid_, m.txtLiquid);
+    showControl(txtGas_, m.txtGas);
     twoPhaseNames_->setText(QString("Liquid: %1    Vapor: %2")
                                 .arg(QString::fromStdString(m.txtLiquid.text), QString::fromStdString(m.txtGas.text)));
     for (auto& [index, units] : cboUnits_) {
@@ -510,44 +472,20 @@ void frmPressureDrop::commit(QLineEdit* field)
     } else if (name == "txtGas") {
         model_.txtGas.text = model_.gasName = text;
     }
-    field->setModified(false);
 }
 
-// The key filter of a numeric field: digits, Backspace, one point, one comma,
-// and one minus sign where the field takes negative numbers.
-bool frmPressureDrop::filterKey(QLineEdit* field, QKeyEvent* key)
+// The numeric fields: digits, one point, one comma, and one minus sign where
+// the field takes negative numbers.
+bool frmPressureDrop::numericField(const QLineEdit& field, bool& minusAllowed) const
 {
-    const QString name = field->objectName();
-    const bool numeric = name.startsWith("txtData(") || name.startsWith("txtDisplay(");
-    return numeric && numericKeyRefused(*field, *key, name.startsWith("txtData("));
+    const QString name = field.objectName();
+    minusAllowed = name.startsWith("txtData(");
+    return name.startsWith("txtData(") || name.startsWith("txtDisplay(");
 }
 
-bool frmPressureDrop::eventFilter(QObject* watched, QEvent* event)
+void frmPressureDrop::keyTyped()
 {
-    auto* field = qobject_cast<QLineEdit*>(watched);
-    switch (event->type()) {
-    case QEvent::KeyPress: {
-        auto* key = static_cast<QKeyEvent*>(event);
-        if (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) {
-            focusNextChild(); // Enter walks through the fields as Tab does
-            return true;
-        }
-        if (field && !field->isReadOnly()) {
-            if (filterKey(field, key))
-                return true;
-            model_.Form_KeyPress();
-        }
-        break;
-    }
-    case QEvent::FocusOut:
-        if (field && !field->isReadOnly() && !rendering_)
-            commit(field);
-        break;
-    default:
-        break;
-    }
-    conventions_.apply(watched, event);
-    return QWidget::eventFilter(watched, event);
+    model_.Form_KeyPress();
 }
 
 } // namespace kestrova

@@ -3,9 +3,7 @@
 // control named as the program knows it ("txtData(5)", "cboUnits(5)"). It
 // forwards the user's events to PressureDropModel and shows what the model holds.
 
-#include "frame/field_conventions.h"
-
-#include <QWidget>
+#include "frame/document_form.h"
 
 #include <array>
 #include <map>
@@ -24,7 +22,7 @@ namespace kestrova {
 class PressureDropModel;
 class UserInterface;
 
-class frmPressureDrop : public QWidget {
+class frmPressureDrop : public DocumentForm {
     Q_OBJECT
 
 public:
@@ -34,7 +32,9 @@ public:
     QSize sizeHint() const override;
 
 protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
+    void commit(QLineEdit* field) override;
+    bool numericField(const QLineEdit& field, bool& minusAllowed) const override;
+    void keyTyped() override;
 
 private:
     QWidget* buildLiquidTab();
@@ -48,13 +48,8 @@ private:
     void projectRows(QGridLayout* grid, int row, int tab);
     QPushButton* tableButton(int index);
     QRadioButton* option(const QString& family, int index, const QString& caption, const QString& status);
-    QLineEdit* lineEdit(const QString& name, bool readOnly);
-    void watchStatus(QWidget* widget, const QString& text);
-    bool filterKey(QLineEdit* field, QKeyEvent* key);
-    void commit(QLineEdit* field);
 
     PressureDropModel& model_;
-    UserInterface& ui_;
     QTabWidget* tabs_ = nullptr;
     std::map<int, QLineEdit*> txtData_, txtDisplay_;
     std::map<int, QComboBox*> cboUnits_;
@@ -67,8 +62,6 @@ private:
     QLineEdit* txtLiquid_ = nullptr;
     QLineEdit* txtGas_ = nullptr;
     QLabel* twoPhaseNames_ = nullptr;
-    FieldConventions conventions_;
-    bool rendering_ = false;
 };
 
 } // namespace kestrova
