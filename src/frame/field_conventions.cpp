@@ -2,6 +2,7 @@
 
 #include "frame/user_interface.h"
 
+#include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QTimer>
@@ -32,12 +33,19 @@ void FieldConventions::setStatusText(QWidget* control, const QString& text, QObj
     control->installEventFilter(form);
 }
 
-void FieldConventions::apply(QObject* watched, const QEvent* event) const
+void FieldConventions::apply(QObject* watched, const QEvent* event)
 {
+    auto* field = qobject_cast<QLineEdit*>(watched);
     if (event->type() == QEvent::FocusIn) {
-        auto* field = qobject_cast<QLineEdit*>(watched);
-        if (field && !field->isReadOnly())
+        if (field && !field->isReadOnly()) {
             QTimer::singleShot(0, field, &QLineEdit::selectAll);
+            if (static_cast<const QFocusEvent*>(event)->reason() == Qt::MouseFocusReason)
+                selectOnRelease_ = field;
+        }
+    } else if (event->type() == QEvent::MouseButtonRelease) {
+        if (field && field == selectOnRelease_ && !field->hasSelectedText())
+            QTimer::singleShot(0, field, &QLineEdit::selectAll); // after the field has taken the release
+        selectOnRelease_ = nullptr;
     } else if (event->type() == QEvent::Enter) {
         const auto found = statusTexts_.find(watched);
         if (found != statusTexts_.end())

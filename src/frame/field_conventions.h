@@ -4,13 +4,14 @@
 // fields, the text selected when a field takes the focus, and the status
 // text written when the pointer enters a control.
 
+#include <QLineEdit>
+#include <QPointer>
 #include <QString>
 
 #include <map>
 
 class QEvent;
 class QKeyEvent;
-class QLineEdit;
 class QObject;
 class QWidget;
 
@@ -35,11 +36,14 @@ public:
     // The shared part of a form's event filter: a writable field selects its
     // text when it takes the focus, and entering a control with a status
     // text shows it.
-    void apply(QObject* watched, const QEvent* event) const;
+    void apply(QObject* watched, const QEvent* event);
 
 private:
     UserInterface& ui_;
     std::map<const QObject*, QString> statusTexts_;
+    // A field entered by a click: its text is selected when the button is
+    // released, since the click itself places the cursor.
+    QPointer<QLineEdit> selectOnRelease_;
 };
 
 } // namespace kestrova

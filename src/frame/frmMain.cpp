@@ -5,6 +5,8 @@
 #include "frame/company_info_model.h"
 #include "frame/frmUnitOptions.h"
 #include "frame/settings_store.h"
+#include "tools/orifice/frmOrificePlates.h"
+#include "tools/orifice/orifice_model.h"
 #include "tools/pressure_drop/frmPressureDrop.h"
 #include "tools/pressure_drop/frmRegimeMap.h"
 #include "tools/pressure_drop/pressure_drop_model.h"
@@ -115,7 +117,7 @@ void frmMain::buildActions()
         recent->setVisible(false);
         connect(recent, &QAction::triggered, this, [this, i] {
             model_.mnuFileMRU_Click(i, [this](int kind) -> DocumentTool* {
-                return kind == 2 ? mnuToolsPressureDrop_Click() : nullptr;
+                return openerOf(kind);
             });
             showRecentFiles();
         });
@@ -134,7 +136,7 @@ void frmMain::buildActions()
     addAction("mnuViewUnitsofMeasure", "&Units of Measure", &frmMain::mnuViewUnitsofMeasure_Click);
     addAction("mnuToolsPressureDrop", "&Pressure Drop", &frmMain::mnuToolsPressureDropMenu_Click);
     addAction("mnuToolsPumpNetwork", "Pump &Network", &frmMain::mnuToolsPumpNetwork_Click);
-    addAction("mnuToolsRestrictionOrifices", "&Orifice Plates", &frmMain::mnuToolsRestrictionOrifices_Click);
+    addAction("mnuToolsRestrictionOrifices", "&Orifice Plates", &frmMain::mnuToolsRestrictionOrificesMenu_Click);
     const std::pair<const char*, const char*> dialogs[] = {
         {"mnuToolsCompressFactor", "&Compressibility Factors"}, {"mnuToolsFlowConversions", "&Flow Conversions"},
         {"mnuToolsGasDensity", "&Gas Density"},                 {"mnuToolsHeatCapRatio", "&Heat Capacity Ratios"},
@@ -397,30 +399,60 @@ DocumentTool* frmMain::activeDocument() const
     QMdiSubWindow* window = mdi_->activeSubWindow();
     if (window && window == pressureDropWindow_)
         return pressureDrop_.get();
+    if (window && window == orificeWindow_)
+        return orifice_.get();
     return nullptr;
 }
 
-void frmMain::onSubWindowActivated(QMdiSubWindow* window)
+void frmMain::activateDocument()
 {
-    if (window && window == pressureDropWindow_ && pressureDrop_)
+    DocumentTool* active = activeDocument();
+    if (active && active == pressureDrop_.get())
         pressureDrop_->Form_Activate();
+    else if (active && active == orifice_.get())
+        orifice_->Form_Activate();
+}
+
+void frmMain::onSubWindowActivated(QMdiSubWindow*)
+{
+    activateDocument();
+}
+
+// The document tool that opens a file of a kind, brought forward.
+DocumentTool* frmMain::openerOf(int kind)
+{
+    if (kind == 2)
+        return mnuToolsPressureDrop_Click();
+    if (kind == 1)
+        return mnuToolsRestrictionOrifices_Click();
+    ui_.toolNotAvailable("Pump Network");
+    return nullptr;
+}
+
+QMdiSubWindow* frmMain::showDocumentWindow(QPointer<QMdiSubWindow>& window, const std::function<QWidget*()>& create)
+{
+    if (!window) {
+        QWidget* form = create();
+        window = mdi_->addSubWindow(form);
+        window->setAttribute(Qt::WA_DeleteOnClose);
+        window->setWindowIcon(QIcon());
+        window->installEventFilter(this);
+        window->resize(form->sizeHint());
+    }
+    window->show();
+    mdi_->setActiveSubWindow(window);
+    window->widget()->setFocus();
+    return window;
 }
 
 PressureDropModel* frmMain::mnuToolsPressureDrop_Click()
 {
-    if (!pressureDropWindow_) {
+    showDocumentWindow(pressureDropWindow_, [this] {
         pressureDrop_ = std::make_unique<PressureDropModel>(ui_);
         auto* form = new frmPressureDrop(*pressureDrop_, ui_);
-        pressureDropWindow_ = mdi_->addSubWindow(form);
-        pressureDropWindow_->setAttribute(Qt::WA_DeleteOnClose);
-        pressureDropWindow_->setWindowIcon(QIcon());
-        pressureDropWindow_->installEventFilter(this);
         pressureDrop_->Form_Load();
-        pressureDropWindow_->resize(form->sizeHint());
-    }
-    pressureDropWindow_->show();
-    mdi_->setActiveSubWindow(pressureDropWindow_);
-    pressureDropWindow_->widget()->setFocus();
+        return form;
+    });
     return pressureDrop_.get();
 }
 
@@ -429,9 +461,15 @@ void frmMain::mnuToolsPumpNetwork_Click()
     ui_.toolNotAvailable("Pump Network");
 }
 
-void frmMain::mnuToolsRestrictionOrifices_Click()
+OrificeModel* frmMain::mnuToolsRestrictionOrifices_Click()
 {
-    ui_.toolNotAvailable("Orifice Plates");
+    showDocumentWindow(orificeWindow_, [this] {
+        orifice_ = std::make_unique<OrificeModel>(ui_);
+        auto* form = new frmOrificePlates(*orifice_, ui_);
+        orifice_->Form_Load();
+        return form;
+    });
+    return orifice_.get();
 }
 
 void frmMain::mnuToolsDialog_Click()
@@ -494,12 +532,8 @@ void frmMain::mnuFileOpen_Click()
 
 void frmMain::openFile(const QString& path)
 {
-    model_.openFile(QFileInfo(path).fileName().toStdString(), path.toStdString(), [this](int kind) -> DocumentTool* {
-        if (kind == 2)
-            return mnuToolsPressureDrop_Click();
-        ui_.toolNotAvailable(kind == 1 ? "Orifice Plates" : "Pump Network");
-        return nullptr;
-    });
+    model_.openFile(QFileInfo(path).fileName().toStdString(), path.toStdString(),
+                    [this](int kind) { return openerOf(kind); });
     showRecentFiles();
 }
 
@@ -632,8 +666,7 @@ void frmMain::mnuViewUnitsofMeasure_Click()
 {
     frmUnitOptions dialog(ui_, store_, this);
     dialog.exec();
-    if (pressureDrop_ && activeDocument() == pressureDrop_.get())
-        pressureDrop_->Form_Activate();
+    activateDocument();
 }
 
 void frmMain::mnuHelpContents_Click()
@@ -656,8 +689,10 @@ bool frmMain::eventFilter(QObject* watched, QEvent* event)
         const QPoint at = static_cast<QHoverEvent*>(event)->position().toPoint();
         if (QAction* hit = toolbar_->actionAt(at); hit && !hit->isSeparator())
             setStatusText(hit->toolTip());
-    } else if (watched == pressureDropWindow_ && event->type() == QEvent::Close && pressureDrop_) {
-        if (!pressureDrop_->Form_QueryUnload()) {
+    } else if (event->type() == QEvent::Close) {
+        const bool kept = (watched == pressureDropWindow_ && pressureDrop_ && !pressureDrop_->Form_QueryUnload()) ||
+                          (watched == orificeWindow_ && orifice_ && !orifice_->Form_QueryUnload());
+        if (kept) {
             event->ignore();
             return true;
         }

@@ -10,6 +10,7 @@
 #include <QPrinter>
 #include <QPointer>
 
+#include <functional>
 #include <map>
 #include <memory>
 
@@ -25,6 +26,7 @@ namespace kestrova {
 class SettingsStore;
 class frmPressureDrop;
 class PressureDropModel;
+class OrificeModel;
 
 class frmMain : public QMainWindow {
     Q_OBJECT
@@ -48,6 +50,7 @@ public:
 
     // Menu handlers that other parts call.
     PressureDropModel* mnuToolsPressureDrop_Click();
+    OrificeModel* mnuToolsRestrictionOrifices_Click();
     bool mnuFileSaveAs_Click();
     void openFile(const QString& path);
     void clipboard(const QString& word);
@@ -59,6 +62,9 @@ protected:
 
 private:
     void buildActions();
+    void activateDocument();
+    DocumentTool* openerOf(int kind);
+    QMdiSubWindow* showDocumentWindow(QPointer<QMdiSubWindow>& window, const std::function<QWidget*()>& create);
     void buildMenus();
     void buildToolbar();
     void buildStatusBar();
@@ -89,7 +95,7 @@ private:
     void mnuViewUnitsofMeasure_Click();
     void mnuToolsPressureDropMenu_Click() { mnuToolsPressureDrop_Click(); }
     void mnuToolsPumpNetwork_Click();
-    void mnuToolsRestrictionOrifices_Click();
+    void mnuToolsRestrictionOrificesMenu_Click() { mnuToolsRestrictionOrifices_Click(); }
     void mnuToolsDialog_Click();
     void mnuHelpContents_Click();
     void mnuHelpAbout_Click();
@@ -106,6 +112,8 @@ private:
     std::map<QString, QAction*> toolbarButtons_;
     QPointer<QMdiSubWindow> pressureDropWindow_;
     std::unique_ptr<PressureDropModel> pressureDrop_;
+    QPointer<QMdiSubWindow> orificeWindow_;
+    std::unique_ptr<OrificeModel> orifice_;
     QPointer<QMdiSubWindow> mapWindows_[2];
     bool closing_ = false;
     QPrinter printer_; // the printer set-up chosen stays for the run

@@ -7,6 +7,8 @@
 #include "frame/basPrint.h"
 #include "frame/company_info_model.h"
 #include "frame/frmMain.h"
+#include "frame/project_file.h"
+#include "tools/orifice/orifice_model.h"
 #include "frame/scripted_user_interface.h"
 #include "tools/piping/piping_dialogs.h"
 #include "tools/properties/property_dialogs.h"
@@ -49,6 +51,14 @@ private:
         return found;
     }
 
+    // A frame of its own, shown and in front, as at the start of the program.
+    static bool shownAndActive(frmMain& frame)
+    {
+        frame.show();
+        frame.activateWindow();
+        return QTest::qWaitForWindowActive(&frame);
+    }
+
     void type(QLineEdit* field, const QString& text)
     {
         field->setFocus();
@@ -65,9 +75,7 @@ private slots:
         QTemporaryDir dir;
         SettingsStore store(dir.filePath("Kestrova.ini"));
         frmMain frame(store);
-        frame.show();
-        frame.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&frame));
+        QVERIFY(shownAndActive(frame));
         QVERIFY(!frame.action("mnuFileSave")->isEnabled());
         QVERIFY(!frame.toolbarButton("Save")->isEnabled());
         QVERIFY(frame.action("mnuFileOpen")->isEnabled());
@@ -129,14 +137,45 @@ private slots:
         QVERIFY(frame.close());
     }
 
+    void orificeToolThroughTheFrame()
+    {
+        QTemporaryDir dir;
+        SettingsStore store(dir.filePath("Kestrova.ini"));
+        frmMain frame(store);
+        QVERIFY(shownAndActive(frame));
+        OrificeModel* model = frame.mnuToolsRestrictionOrifices_Click();
+        QVERIFY(model);
+        QWidget* form = frame.mdiArea()->activeSubWindow()->widget();
+        QCOMPARE(form->objectName(), QString("frmOrificePlates"));
+        QVERIFY(control<QLineEdit>(form, "txtData(0)")->isReadOnly()); // the solved flow
+        type(control<QLineEdit>(form, "txtData(1)"), "10");
+        type(control<QLineEdit>(form, "txtData(3)"), "68");
+        type(control<QLineEdit>(form, "txtData(4)"), "62.4");
+        type(control<QLineEdit>(form, "txtData(5)"), "1");
+        type(control<QLineEdit>(form, "txtData(2)"), "2.013");
+        type(control<QLineEdit>(form, "txtData(9)"), "4.026");
+        QCOMPARE(control<QLineEdit>(form, "txtData(0)")->text(), QString("119,542.23"));
+        QCOMPARE(control<QLineEdit>(form, "txtDisplay(1)")->text(), QString("0.6050"));
+        control<QRadioButton>(form, "optCompute(2)")->click(); // now the bore is solved
+        QVERIFY(control<QLineEdit>(form, "txtData(2)")->isReadOnly());
+        QVERIFY(!control<QLineEdit>(form, "txtData(0)")->isReadOnly());
+        QVERIFY(frame.action("mnuFileSave")->isEnabled());
+        // Save goes to the tool in front; with a file name it asks nothing, and the file is of kind 1.
+        model->setStrFileName(dir.filePath("plate.ksv").toStdString());
+        frame.action("mnuFileSave")->trigger();
+        QByteArray bytes;
+        QVERIFY(readWholeFile(dir.filePath("plate.ksv"), bytes));
+        QCOMPARE(fileKindOf(bytes), std::int16_t(1));
+        QCOMPARE(frame.mdiArea()->activeSubWindow()->windowTitle(), QString("Orifice Plates: plate.ksv"));
+        QVERIFY(frame.close()); // nothing changed since the save: no question
+    }
+
     void gasResultsFrameTurnsRedWhenChoked()
     {
         QTemporaryDir dir;
         SettingsStore store(dir.filePath("Kestrova.ini"));
         frmMain frame(store);
-        frame.show();
-        frame.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&frame));
+        QVERIFY(shownAndActive(frame));
         PressureDropModel* model = frame.mnuToolsPressureDrop_Click();
         QWidget* form = frame.mdiArea()->activeSubWindow()->widget();
         model->SSTab1_Click(1);

@@ -43,6 +43,7 @@ public:
     void cboElementMaterial_Click(int tabIndex, int material);
     void cboPipeMaterial_Click(int tabIndex, int material);
     void ComputeOrifice();
+    void Form_KeyPress() { setDirty(); } // any key typed in a field
     void cmdProperties_Click(int index); // 0 liquid tab, 1 gas tab: the physical properties tool
     void cmdTable_Click(int index);      // 0, 1 pipe sizes; 2 the heat capacity ratio; 3 the gas density
     void cmdReset_Click();    // asks first
