@@ -671,8 +671,7 @@ void frmMain::mnuViewUnitsofMeasure_Click()
 
 void frmMain::mnuHelpContents_Click()
 {
-    ui_.ask("Kestrova", "Unable to display Help Contents. There is no Help associated with this project.",
-            MessageIcon::Warning, MessageButtons::Ok, MessageAnswer::Ok);
+    showHelpUnavailable(ui_);
 }
 
 void frmMain::mnuHelpAbout_Click()

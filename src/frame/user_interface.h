@@ -55,4 +55,11 @@ public:
                           const std::string& table) = 0;
 };
 
+// The help entries and buttons while the program has no help file.
+inline void showHelpUnavailable(UserInterface& ui)
+{
+    ui.ask("Kestrova", "Unable to display Help Contents. There is no Help associated with this project.",
+           MessageIcon::Warning, MessageButtons::Ok, MessageAnswer::Ok);
+}
+
 } // namespace kestrova

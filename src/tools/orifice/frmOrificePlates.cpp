@@ -285,6 +285,7 @@ QWidget* frmOrificePlates::buildTab(int t)
     });
     guides->setToolTip("View Orifice Plate Guidelines");
     buttons->addWidget(guides);
+    buttons->addWidget(command(QString("cmdHelp(%1)").arg(t), "Help with Equations", [this] { showHelpUnavailable(ui_); }));
     buttons->addStretch();
 
     auto* left = new QVBoxLayout;

@@ -498,8 +498,7 @@ frmReducer::frmReducer(ReducerModel& model, UserInterface& ui, QWidget* parent)
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(button("cmdReset", "Reset All Input Data", [this] { model_.cmdReset_Click(); }));
     buttons->addWidget(button("cmdHelp", "Help with Equations", [this] {
-        ui_.ask("Kestrova", "Unable to display Help Contents. There is no Help associated with this project.",
-                MessageIcon::Warning, MessageButtons::Ok, MessageAnswer::Ok);
+        showHelpUnavailable(ui_);
     }));
     buttons->addStretch();
     buttons->addWidget(apply);
