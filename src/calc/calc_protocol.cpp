@@ -30,12 +30,8 @@ std::string dispatch(const nlohmann::json& request, const std::string& id)
         throw RequestError("missing \"call\"");
     const auto& calls = functionCalls();
     const auto handler = calls.find(call->get<std::string>());
-    if (handler == calls.end()) {
-        const std::string name = call->get<std::string>();
-        if (name == "PumpNetwork.NetCalc")
-            throw RequestError("the call '" + name + "' belongs to a tool that is not available in this version");
-        throw RequestError("unknown call '" + name + "'");
-    }
+    if (handler == calls.end())
+        throw RequestError("unknown call '" + call->get<std::string>() + "'");
 
     static const nlohmann::json noArgs = nlohmann::json::object();
     const auto args = request.find("args");

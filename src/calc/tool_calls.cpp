@@ -7,6 +7,7 @@
 #include "frame/scripted_user_interface.h"
 #include "frame/unit_field.h"
 #include "tools/orifice/orifice_model.h"
+#include "tools/pump_network/pump_network_model.h"
 #include "tools/piping/minor_loss_store.h"
 #include "tools/piping/pipe_selection.h"
 #include "tools/pressure_drop/pressure_drop_model.h"
@@ -182,6 +183,75 @@ void orificePlatesComputeOrifice(const RequestArgs& a, JsonObject& result)
     reportOrifice(tool, result);
 }
 
+// A line array of the network: up to 12 numbers, element 0 unused.
+void applyLineArray(const json& object, const char* name, LineValues& values)
+{
+    const auto found = object.find(name);
+    if (found == object.end())
+        return;
+    if (!found->is_array() || found->size() > 12)
+        throw RequestError(std::string("argument '") + name + "' must be an array of at most 12 numbers");
+    for (size_t i = 0; i < found->size(); ++i) {
+        const double number = numberValue((*found)[i], std::string(name) + "[" + std::to_string(i) + "]");
+        FaultScope scope("arguments");
+        values[i] = number;
+    }
+}
+
+void applyScalar(const json& object, const char* name, Single& value)
+{
+    if (!object.contains(name))
+        return;
+    const double number = numberValue(object[name], name);
+    FaultScope scope("arguments");
+    value = number;
+}
+
+void pumpNetworkNetCalc(const RequestArgs& a, JsonObject& result)
+{
+    resetSharedState();
+    ScriptedUserInterface ui;
+    PumpNetworkModel tool(ui);
+    tool.Form_Load();
+    tool.Form_Activate();
+
+    const json& args = a.raw();
+    applyUnits(objectArgument(args, "units"), PumpNetworkModel::kUnitLists,
+               [&tool](int index, UnitIndex unit) { tool.setUnit(index, unit); });
+    NetworkState& s = tool.state;
+    SegmentData& g = tool.segments;
+    MinorLossStore& k = minorLossStore();
+    const std::vector<std::pair<const char*, LineValues*>> inputs{
+        {"NetFlow", &s.NetFlow}, {"NetPDest", &s.NetPDest}, {"NetHeight", &s.NetHeight}, {"SegLength", &g.SegLength},
+        {"SegID", &g.SegID},     {"SegRough", &g.SegRough}, {"SegDensity", &g.SegDensity}, {"SegVisc", &g.SegVisc},
+        {"SegDpAdd", &g.SegDpAdd}};
+    for (const auto& [name, values] : inputs)
+        applyLineArray(args, name, *values);
+    LineValues k1{}, k2{}, k3{};
+    applyLineArray(args, "SegK1", k1);
+    applyLineArray(args, "SegK2", k2);
+    applyLineArray(args, "SegK3", k3);
+    for (size_t i = 0; i < 12; ++i) {
+        k.SegK1[i] = k1[i];
+        k.SegK2[i] = k2[i];
+        k.SegK3[i] = k3[i];
+    }
+    for (const char* name : {"VaporPress", "MinValveDp", "LinePercentDp", "PumpEff"})
+        applyScalar(args, name, *networkScalar(s, name));
+    const json& earlier = objectArgument(args, "state");
+    for (const auto& [name, values] : networkResultArrays(s))
+        applyLineArray(earlier, name, *values);
+    for (const char* name : {"PumpHead", "NPSHa", "MotorSize", "PDischarge", "PSuction"})
+        applyScalar(earlier, name, *networkScalar(s, name));
+
+    for (int i = 0; i < PumpNetworkModel::kFields; ++i)
+        tool.cboUnits_Click(i);
+    tool.txtHydraulicEff = plainNumberText(s.PumpEff);
+    tool.txtMinValvePercentdP = plainNumberText(s.LinePercentDp);
+    tool.NetCalc();
+    reportPumpNetwork(tool, result);
+}
+
 std::vector<std::string> textList(const RequestArgs& a, const std::string& name, size_t count)
 {
     const json& list = a.raw().contains(name) ? a.raw()[name] : json::array();
@@ -333,6 +403,7 @@ void addToolCalls(std::map<std::string, CallSpec, std::less<>>& calls)
 {
     calls["PressureDrop.CalculateResults"] = {{}, pressureDropCalculateResults};
     calls["OrificePlates.ComputeOrifice"] = {{}, orificePlatesComputeOrifice};
+    calls["PumpNetwork.NetCalc"] = {{}, pumpNetworkNetCalc};
     calls["FlowConversions.Convert"] = {{"conversion", "stp", "units", "field"}, flowConversionsConvert};
     calls["GasDensity.Compute"] = {{"temperature", "pressure", "molecularWeight", "compressibility"}, gasDensityCompute};
     calls["CompressFactor.ComputeZ"] = {

@@ -2,6 +2,7 @@
 
 #include "frame/scripted_user_interface.h"
 #include "tools/orifice/orifice_model.h"
+#include "tools/pump_network/pump_network_model.h"
 #include "tools/pressure_drop/pressure_drop_model.h"
 
 namespace kestrova::calc {
@@ -86,6 +87,58 @@ void reportOrifice(OrificeModel& tool, JsonObject& result)
         texts.text("txtDisplay(" + std::to_string(i) + ")", tool.txtDisplay[static_cast<size_t>(i)]);
     texts.text("txtErrorLiquid", tool.txtErrorLiquid).text("txtErrorGas", tool.txtErrorGas);
     result.raw("record", record.str()).raw("texts", texts.str());
+}
+
+std::vector<std::pair<const char*, std::array<Single, 12>*>> networkResultArrays(NetworkState& s)
+{
+    return {{"NetVel", &s.NetVel},       {"NetRe", &s.NetRe},   {"NetFd", &s.NetFd},
+            {"NetDpLine", &s.NetDpLine}, {"NetDpCV", &s.NetDpCV}, {"NetDpStatic", &s.NetDpStatic}};
+}
+
+Single* networkScalar(NetworkState& s, const std::string& name)
+{
+    const std::pair<const char*, Single*> scalars[] = {
+        {"PumpHead", &s.PumpHead}, {"VaporPress", &s.VaporPress},       {"MinValveDp", &s.MinValveDp},
+        {"NPSHa", &s.NPSHa},       {"MotorSize", &s.MotorSize},         {"LinePercentDp", &s.LinePercentDp},
+        {"PumpEff", &s.PumpEff},   {"PDischarge", &s.PDischarge},       {"PSuction", &s.PSuction}};
+    for (const auto& [key, value] : scalars)
+        if (name == key)
+            return value;
+    return nullptr;
+}
+
+void reportPumpNetwork(const PumpNetworkModel& tool, JsonObject& result)
+{
+    NetworkState s = tool.state;
+    const SegmentData& g = tool.segments;
+    const auto array = [](const std::array<Single, 12>& values) {
+        std::string json = "[";
+        for (size_t i = 0; i < values.size(); ++i)
+            json += (i ? ", " : "") + singleText(values[i]);
+        return json + "]";
+    };
+    const std::pair<const char*, const std::array<Single, 12>*> inputs[] = {
+        {"NetFlow", &s.NetFlow}, {"NetPDest", &s.NetPDest}, {"NetHeight", &s.NetHeight}, {"SegLength", &g.SegLength},
+        {"SegID", &g.SegID},     {"SegRough", &g.SegRough}, {"SegDensity", &g.SegDensity}, {"SegVisc", &g.SegVisc},
+        {"SegDpAdd", &g.SegDpAdd}, {"SegK1", &g.SegK1},     {"SegK2", &g.SegK2},         {"SegK3", &g.SegK3}};
+    for (const auto& [name, values] : inputs)
+        result.raw(name, array(*values));
+    for (const auto& [name, values] : networkResultArrays(s))
+        result.raw(name, array(*values));
+    for (const char* name : {"PumpHead", "VaporPress", "MinValveDp", "NPSHa", "MotorSize", "LinePercentDp", "PumpEff",
+                             "PDischarge", "PSuction"})
+        result.single(name, *networkScalar(s, name));
+    JsonObject texts;
+    for (int i = 0; i < PumpNetworkModel::kFields; ++i)
+        texts.text("txtData(" + std::to_string(i) + ")", tool.txtData[static_cast<size_t>(i)]);
+    std::string rows = "[";
+    for (size_t r = 0; r < tool.grid.size(); ++r) {
+        rows += r ? ", [" : "[";
+        for (size_t c = 0; c < tool.grid[r].size(); ++c)
+            rows += (c ? ", " : "") + quoted(tool.grid[r][c]);
+        rows += "]";
+    }
+    result.raw("texts", texts.str()).raw("grid", rows + "]");
 }
 
 } // namespace kestrova::calc

@@ -4,12 +4,18 @@
 
 #include "calc/json_result.h"
 
+#include <array>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace kestrova {
 class ScriptedUserInterface;
 class PressureDropModel;
 class OrificeModel;
+class PumpNetworkModel;
+struct NetworkState;
+class Single;
 } // namespace kestrova
 
 namespace kestrova::calc {
@@ -22,6 +28,13 @@ void reportPressureDrop(const PressureDropModel& tool, const ScriptedUserInterfa
 
 // record and texts of the orifice tool after a run.
 void reportOrifice(OrificeModel& tool, JsonObject& result);
+
+// Every array and scalar of the network, the texts of txtData(0..33) and the grid.
+void reportPumpNetwork(const PumpNetworkModel& tool, JsonObject& result);
+
+// The network's arrays of results and its scalars, by their program names.
+std::vector<std::pair<const char*, std::array<Single, 12>*>> networkResultArrays(NetworkState& state);
+Single* networkScalar(NetworkState& state, const std::string& name);
 
 // The record field names of the pressure drop tool, in file order.
 const char* const* pressureDropFieldNames();
