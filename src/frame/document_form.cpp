@@ -8,7 +8,15 @@
 
 namespace kestrova {
 
-DocumentForm::DocumentForm(UserInterface& ui, QWidget* parent) : QWidget(parent), ui_(ui), conventions_(ui) {}
+DocumentForm::DocumentForm(UserInterface& ui, QWidget* parent, std::function<void()> keyTyped, QSize least)
+    : QWidget(parent), ui_(ui), conventions_(ui), keyTyped_(std::move(keyTyped)), least_(least)
+{
+}
+
+QSize DocumentForm::sizeHint() const
+{
+    return QWidget::sizeHint().expandedTo(least_);
+}
 
 int DocumentForm::indexOf(const QString& name)
 {
@@ -70,7 +78,7 @@ bool DocumentForm::eventFilter(QObject* watched, QEvent* event)
             bool minusAllowed = false;
             if (numericField(*field, minusAllowed) && numericKeyRefused(*field, *key, minusAllowed))
                 return true;
-            keyTyped();
+            keyTyped_();
         }
         break;
     }

@@ -23,7 +23,12 @@ class DocumentForm : public QWidget {
     Q_OBJECT
 
 public:
-    DocumentForm(UserInterface& ui, QWidget* parent);
+    // `keyTyped` runs for any key typed in a field (it marks the data
+    // changed); `least` is the smallest size the window opens at.
+    DocumentForm(UserInterface& ui, QWidget* parent, std::function<void()> keyTyped, QSize least);
+
+    QSize sizeHint() const override;
+    virtual void render() = 0; // shows what the model holds
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -31,7 +36,6 @@ protected:
     // The tool's side of the conventions.
     virtual void commit(QLineEdit* field) = 0;
     virtual bool numericField(const QLineEdit& field, bool& minusAllowed) const = 0;
-    virtual void keyTyped() = 0; // any key in a field marks the data changed
 
     QLineEdit* lineEdit(const QString& name, bool readOnly);
     QComboBox* unitList(const QString& name, const char* tag, const std::function<void(int)>& choose);
@@ -44,6 +48,10 @@ protected:
     UserInterface& ui_;
     FieldConventions conventions_;
     bool rendering_ = false; // set while render() runs, so that nothing is committed
+
+private:
+    std::function<void()> keyTyped_;
+    QSize least_;
 };
 
 } // namespace kestrova

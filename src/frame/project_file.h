@@ -33,6 +33,12 @@ public:
     void text(const std::string& utf8);
     const QByteArray& bytes() const { return bytes_; }
 
+    // One walk over a record serves both ways: a writer takes each field.
+    void field(std::int16_t value) { integer16(value); }
+    void field(std::int32_t value) { integer32(value); }
+    void field(Single value) { single(value); }
+    void field(const std::string& value) { text(value); }
+
 private:
     QByteArray bytes_;
 };
@@ -45,6 +51,12 @@ public:
     Single single();
     std::string text();
     bool atEnd() const { return position_ >= bytes_.size(); }
+
+    // ... and a reader fills it.
+    void field(std::int16_t& value) { value = integer16(); }
+    void field(std::int32_t& value) { value = integer32(); }
+    void field(Single& value) { value = single(); }
+    void field(std::string& value) { value = text(); }
 
 private:
     const char* take(qsizetype count);

@@ -29,6 +29,8 @@ void ToolDialog::runModal()
 
 void ToolDialog::showEvent(QShowEvent* event)
 {
+    if (onShow)
+        onShow();
     render();
     QDialog::showEvent(event);
 }

@@ -47,6 +47,7 @@ protected:
 
     UserInterface& ui_;
     std::function<void()> onCancel;
+    std::function<void()> onShow; // the model's activation, run before the dialog first shows
 
 private:
     void update();

@@ -18,6 +18,12 @@ struct FieldKind {
     std::array<const char*, 8> masks;
 };
 
+// One mask for every unit of a list.
+constexpr std::array<const char*, 8> sameMask(const char* mask)
+{
+    return {mask, mask, mask, mask, mask, mask, mask, mask};
+}
+
 // The text of a base value in a unit; empty when the unit is not in the list
 // or the value cannot be shown.
 std::string unitFieldText(const FieldKind& kind, Single value, UnitIndex unit);

@@ -68,7 +68,7 @@ private:
 };
 
 frmOrificePlates::frmOrificePlates(OrificeModel& model, UserInterface& ui, QWidget* parent)
-    : DocumentForm(ui, parent), model_(model)
+    : DocumentForm(ui, parent, [&model] { model.Form_KeyPress(); }, QSize(940, 600)), model_(model)
 {
     setObjectName("frmOrificePlates");
     setWindowTitle(OrificeModel::kTitle);
@@ -88,11 +88,6 @@ frmOrificePlates::frmOrificePlates(OrificeModel& model, UserInterface& ui, QWidg
     watchStatus(tabs_, "Orifice Plate Pressure Drop Calculations");
     connect(&model_, &OrificeModel::changed, this, &frmOrificePlates::render);
     render();
-}
-
-QSize frmOrificePlates::sizeHint() const
-{
-    return QWidget::sizeHint().expandedTo(QSize(940, 600));
 }
 
 QGroupBox* frmOrificePlates::frame(int index, const QString& caption, const QString& status)
@@ -379,11 +374,6 @@ bool frmOrificePlates::numericField(const QLineEdit& field, bool& minusAllowed) 
 {
     minusAllowed = true;
     return field.objectName().startsWith("txtData(") || field.objectName() == "txtDisplay(5)";
-}
-
-void frmOrificePlates::keyTyped()
-{
-    model_.Form_KeyPress();
 }
 
 // --- Guidelines ----------------------------------------------------------------------------

@@ -29,13 +29,11 @@ class frmOrificePlates : public DocumentForm {
 public:
     frmOrificePlates(OrificeModel& model, UserInterface& ui, QWidget* parent = nullptr);
 
-    void render();
-    QSize sizeHint() const override;
+    void render() override;
 
 protected:
     void commit(QLineEdit* field) override;
     bool numericField(const QLineEdit& field, bool& minusAllowed) const override;
-    void keyTyped() override;
 
 private:
     QWidget* buildTab(int tab);

@@ -29,28 +29,34 @@ struct OrificeFile {
     Single heatCapacity, acentricFactor, molecularWeight, criticalTemperature, criticalPressure;
 };
 
+// The file after its kind, in order, for reading and writing alike. The
+// critical constants stand twice; on reading the later copy wins.
+template <typename Io, typename File>
+void walkRecord(Io& io, File& f)
+{
+    io.field(f.tab);
+    io.field(f.computeOption);
+    io.field(f.tapOption);
+    for (auto& m : f.materials)
+        io.field(m);
+    for (Single* field : f.record.fields())
+        io.field(*field);
+    io.field(f.criticalTemperature);
+    io.field(f.criticalPressure);
+    for (auto& text : f.projectAndTags)
+        io.field(text);
+    io.field(f.liquidName);
+    io.field(f.gasName);
+    io.field(f.compoundPosition);
+    for (auto* value : {&f.heatCapacity, &f.acentricFactor, &f.molecularWeight, &f.criticalTemperature,
+                        &f.criticalPressure})
+        io.field(*value);
+}
+
 OrificeFile readRecord(RecordReader& in)
 {
     OrificeFile f;
-    f.tab = in.integer16();
-    f.computeOption = in.integer16();
-    f.tapOption = in.integer16();
-    for (std::int16_t& m : f.materials)
-        m = in.integer16();
-    for (Single* field : f.record.fields())
-        *field = in.single();
-    f.criticalTemperature = in.single(); // written twice; the later copy stands
-    f.criticalPressure = in.single();
-    for (std::string& text : f.projectAndTags)
-        text = in.text();
-    f.liquidName = in.text();
-    f.gasName = in.text();
-    f.compoundPosition = in.integer32();
-    f.heatCapacity = in.single();
-    f.acentricFactor = in.single();
-    f.molecularWeight = in.single();
-    f.criticalTemperature = in.single();
-    f.criticalPressure = in.single();
+    walkRecord(in, f);
     return f;
 }
 
@@ -70,28 +76,26 @@ bool OrificeModel::OpenSaveData(const std::string& operation)
 
 bool OrificeModel::saveFile()
 {
+    const PhysProps& props = physProps();
+    OrificeFile f;
+    f.tab = static_cast<std::int16_t>(tab);
+    f.computeOption = static_cast<std::int16_t>(compute + 3 * tab); // as the control arrays number them
+    f.tapOption = static_cast<std::int16_t>(meterTap + 3 * tab);
+    f.materials = {static_cast<std::int16_t>(elementMaterial[0]), static_cast<std::int16_t>(elementMaterial[1]),
+                   static_cast<std::int16_t>(pipeMaterial[0]), static_cast<std::int16_t>(pipeMaterial[1])};
+    f.record = record;
+    f.projectAndTags = {txtProject[0], txtTag[0], txtProject[1], txtTag[1]};
+    f.liquidName = liquidName;
+    f.gasName = gasName;
+    f.compoundPosition = rememberedCompoundPosition();
+    f.heatCapacity = props.heatCapacity;
+    f.acentricFactor = props.acentricFactor;
+    f.molecularWeight = props.molecularWeight;
+    f.criticalTemperature = props.criticalTemperature;
+    f.criticalPressure = props.criticalPressure;
     RecordWriter out;
     out.integer16(kOrificeKind);
-    out.integer16(static_cast<std::int16_t>(tab));
-    out.integer16(static_cast<std::int16_t>(compute + 3 * tab)); // as the control arrays number them
-    out.integer16(static_cast<std::int16_t>(meterTap + 3 * tab));
-    for (int m : {elementMaterial[0], elementMaterial[1], pipeMaterial[0], pipeMaterial[1]})
-        out.integer16(static_cast<std::int16_t>(m));
-    for (Single* field : record.fields())
-        out.single(*field);
-    const PhysProps& props = physProps();
-    out.single(props.criticalTemperature);
-    out.single(props.criticalPressure);
-    for (int t = 0; t < 2; ++t) {
-        out.text(txtProject[static_cast<size_t>(t)]);
-        out.text(txtTag[static_cast<size_t>(t)]);
-    }
-    out.text(liquidName);
-    out.text(gasName);
-    out.integer32(rememberedCompoundPosition());
-    for (Single value : {props.heatCapacity, props.acentricFactor, props.molecularWeight, props.criticalTemperature,
-                         props.criticalPressure})
-        out.single(value);
+    walkRecord(out, f);
     return saveProjectFile(ui_, kTitle, fileName_, out.bytes());
 }
 

@@ -19,7 +19,7 @@ const FieldKind kPressureDrop{"Pressure Drop", PressureToUnit, PressureFromUnit,
                                "##,##0.0000"}};
 const FieldKind kGasDensity{"Density", DensityToUnit, DensityFromUnit,
                             {"##,##0.0000", "##,##0.0000", "##,##0.0000", "##,##0.000"}};
-const FieldKind kExpansion{"Expansion Coef", ExpansionToUnit, ExpansionFromUnit, {"0.00E+00", "0.00E+00"}};
+const FieldKind kExpansion{"Expansion Coef", ExpansionToUnit, ExpansionFromUnit, sameMask("0.00E+00")};
 
 struct OrificeField {
     const FieldKind* kind;
@@ -32,38 +32,34 @@ using O = OrificeData;
 using Q = Quantity;
 namespace k = field_kinds;
 
-// txtData(i) with cboUnits(i); the gas field 18 is the inlet pressure, which the liquid tab lacks.
-const std::array<OrificeField, OrificeModel::kFields> kFieldTable{{
-    {&k::flow, &O::liquidFlow, true, Q::Flow},                  // 0
-    {&kPressureDrop, &O::differentialPressure, true, Q::PressureDrop},
-    {&k::diameter, &O::orificeDiameter, true, Q::Diameter},
-    {&k::temperature, &O::temperature, true, Q::Temperature},
-    {&k::density, &O::liquidDensity, true, Q::Density},
-    {&k::viscosity, &O::liquidViscosity, true, Q::Viscosity},   // 5
-    {&k::temperature, &O::referenceTemperature, true, Q::Temperature},
-    {&k::diameter, &O::holeDiameter, true, Q::Diameter},
-    {&kExpansion, &O::elementExpansion, false, Q::Temperature},
-    {&k::diameter, &O::pipeID, true, Q::Diameter},
-    {&kExpansion, &O::pipeExpansion, false, Q::Temperature},    // 10
-    {&k::velocity, &O::velocityPipe, true, Q::Velocity},
-    {&k::velocity, &O::velocityOrifice, true, Q::Velocity},
-    {&kPressureDrop, &O::permanentLoss, true, Q::PressureDrop},
-    {&k::flow, &O::gasFlow, true, Q::Flow},
-    {&kPressureDrop, &O::differentialPressure, true, Q::PressureDrop}, // 15
-    {&k::diameter, &O::orificeDiameter, true, Q::Diameter},
-    {&k::temperature, &O::temperature, true, Q::Temperature},
-    {&k::pressure, &O::inletPressure, true, Q::Pressure},
-    {&kGasDensity, &O::gasDensity, true, Q::Density},
-    {&k::viscosity, &O::gasViscosity, true, Q::Viscosity},      // 20
-    {&k::temperature, &O::referenceTemperature, true, Q::Temperature},
-    {&k::diameter, &O::holeDiameter, true, Q::Diameter},
-    {&kExpansion, &O::elementExpansion, false, Q::Temperature},
-    {&k::diameter, &O::pipeID, true, Q::Diameter},
-    {&kExpansion, &O::pipeExpansion, false, Q::Temperature},    // 25
-    {&k::velocity, &O::velocityPipe, true, Q::Velocity},
-    {&k::velocity, &O::velocityOrifice, true, Q::Velocity},
-    {&kPressureDrop, &O::permanentLoss, true, Q::PressureDrop},
-}};
+// txtData(i) with cboUnits(i): liquid 0 to 13, gas 14 to 28. Both tabs have
+// the same rows, but the gas tab has the inlet pressure before its density.
+std::array<OrificeField, OrificeModel::kFields> makeFieldTable()
+{
+    std::array<OrificeField, OrificeModel::kFields> table{};
+    for (int tab = 0; tab < 2; ++tab) {
+        const bool gas = tab == 1;
+        auto row = table.begin() + (gas ? 14 : 0);
+        *row++ = {&k::flow, gas ? &O::gasFlow : &O::liquidFlow, true, Q::Flow};
+        *row++ = {&kPressureDrop, &O::differentialPressure, true, Q::PressureDrop};
+        *row++ = {&k::diameter, &O::orificeDiameter, true, Q::Diameter};
+        *row++ = {&k::temperature, &O::temperature, true, Q::Temperature};
+        if (gas)
+            *row++ = {&k::pressure, &O::inletPressure, true, Q::Pressure};
+        *row++ = {gas ? &kGasDensity : &k::density, gas ? &O::gasDensity : &O::liquidDensity, true, Q::Density};
+        *row++ = {&k::viscosity, gas ? &O::gasViscosity : &O::liquidViscosity, true, Q::Viscosity};
+        *row++ = {&k::temperature, &O::referenceTemperature, true, Q::Temperature};
+        *row++ = {&k::diameter, &O::holeDiameter, true, Q::Diameter};
+        *row++ = {&kExpansion, &O::elementExpansion, false, Q::Temperature};
+        *row++ = {&k::diameter, &O::pipeID, true, Q::Diameter};
+        *row++ = {&kExpansion, &O::pipeExpansion, false, Q::Temperature};
+        *row++ = {&k::velocity, &O::velocityPipe, true, Q::Velocity};
+        *row++ = {&k::velocity, &O::velocityOrifice, true, Q::Velocity};
+        *row++ = {&kPressureDrop, &O::permanentLoss, true, Q::PressureDrop};
+    }
+    return table;
+}
+const std::array<OrificeField, OrificeModel::kFields> kFieldTable = makeFieldTable();
 
 // The coefficient fields of the materials: element and pipe, on each tab.
 constexpr std::array<int, 2> kElementExpansionField{8, 23}, kPipeExpansionField{10, 25};

@@ -269,10 +269,23 @@ void frmRoughness::render()
 
 // --- Fitting sketches -------------------------------------------------------------
 
-FittingSketch::FittingSketch(QWidget* parent) : QWidget(parent)
+// Made after the form's fields, so that it can watch those that carry a group.
+FittingSketch::FittingSketch(QWidget* form) : QWidget(form)
 {
     setObjectName("imgFitting");
     setMinimumSize(140, 110);
+    for (QLineEdit* field : form->findChildren<QLineEdit*>())
+        if (field->property("fittingGroup").isValid())
+            field->installEventFilter(this);
+}
+
+bool FittingSketch::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::FocusIn)
+        show(watched->property("fittingGroup").toString());
+    else if (event->type() == QEvent::FocusOut)
+        show(QString());
+    return QWidget::eventFilter(watched, event);
 }
 
 void FittingSketch::paintEvent(QPaintEvent*)
@@ -354,7 +367,6 @@ frmMinorLosses::frmMinorLosses(MinorLossesModel& model, UserInterface& ui, QWidg
         edit->setMaximumWidth(70);
         edit->setToolTip(QString("K1 = %1, K2 = %2").arg(f.K1).arg(f.K2));
         edit->setProperty("fittingGroup", groupName);
-        edit->installEventFilter(this);
         connect(edit, &QLineEdit::textEdited, this, [this, n](const QString& text) {
             model_.txtQuantity[static_cast<size_t>(n)] = text.toStdString();
             model_.Sum();
@@ -434,14 +446,6 @@ void frmMinorLosses::render()
     setText(totals_[2], model_.txtTotalK);
 }
 
-bool frmMinorLosses::eventFilter(QObject* watched, QEvent* event)
-{
-    if (event->type() == QEvent::FocusIn && watched->property("fittingGroup").isValid())
-        imgFitting_->show(watched->property("fittingGroup").toString());
-    else if (event->type() == QEvent::FocusOut && watched->property("fittingGroup").isValid())
-        imgFitting_->show(QString());
-    return ToolDialog::eventFilter(watched, event);
-}
 
 // --- Contractions and enlargements ------------------------------------------------------
 
@@ -488,10 +492,6 @@ frmReducer::frmReducer(ReducerModel& model, UserInterface& ui, QWidget* parent)
     grid->addWidget(new QLabel("Total K:"), ReducerModel::kRows + 2, 2);
     grid->addWidget(txtTotalK_, ReducerModel::kRows + 2, 3);
     imgFitting_ = new FittingSketch(this);
-    for (QLineEdit* edit : txtAngle_)
-        edit->installEventFilter(this);
-    for (QLineEdit* edit : txtBeta_)
-        edit->installEventFilter(this);
 
     auto* apply = button("cmdApply", "Apply Results", [this] { model_.cmdApply_Click(); });
     apply->setDefault(true);
@@ -528,13 +528,5 @@ void frmReducer::render()
     }
 }
 
-bool frmReducer::eventFilter(QObject* watched, QEvent* event)
-{
-    if (event->type() == QEvent::FocusIn && watched->property("fittingGroup").isValid())
-        imgFitting_->show(watched->property("fittingGroup").toString());
-    else if (event->type() == QEvent::FocusOut && watched->property("fittingGroup").isValid())
-        imgFitting_->show(QString());
-    return ToolDialog::eventFilter(watched, event);
-}
 
 } // namespace kestrova

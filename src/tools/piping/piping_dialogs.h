@@ -57,15 +57,17 @@ private:
     QPushButton* select_ = nullptr;
 };
 
-// A small drawing of a fitting group, shown while one of its fields has the focus.
+// A small drawing of a fitting group, shown while one of its fields has the
+// focus. The fields of a form carry their group in the property "fittingGroup".
 class FittingSketch : public QWidget {
 public:
-    explicit FittingSketch(QWidget* parent = nullptr);
+    explicit FittingSketch(QWidget* form);
     void show(const QString& group) { group_ = group; update(); }
     QSize sizeHint() const override { return {140, 110}; }
 
 protected:
     void paintEvent(QPaintEvent*) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     QString group_;
@@ -77,7 +79,6 @@ public:
 
 protected:
     void render() override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     MinorLossesModel& model_;
@@ -93,7 +94,6 @@ public:
 
 protected:
     void render() override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     ReducerModel& model_;

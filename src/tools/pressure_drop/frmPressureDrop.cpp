@@ -35,7 +35,7 @@ bool isResultField(int index)
 } // namespace
 
 frmPressureDrop::frmPressureDrop(PressureDropModel& model, UserInterface& ui, QWidget* parent)
-    : DocumentForm(ui, parent), model_(model)
+    : DocumentForm(ui, parent, [&model] { model.Form_KeyPress(); }, QSize(900, 560)), model_(model)
 {
     setObjectName("frmPressureDrop");
     setWindowTitle(PressureDropModel::kTitle);
@@ -56,11 +56,6 @@ frmPressureDrop::frmPressureDrop(PressureDropModel& model, UserInterface& ui, QW
     watchStatus(this, PressureDropModel::kStatusTitle);
     connect(&model_, &PressureDropModel::changed, this, &frmPressureDrop::render);
     render();
-}
-
-QSize frmPressureDrop::sizeHint() const
-{
-    return QWidget::sizeHint().expandedTo(QSize(900, 560));
 }
 
 QGroupBox* frmPressureDrop::frame(int index, const QString& caption)
@@ -481,11 +476,6 @@ bool frmPressureDrop::numericField(const QLineEdit& field, bool& minusAllowed) c
     const QString name = field.objectName();
     minusAllowed = name.startsWith("txtData(");
     return name.startsWith("txtData(") || name.startsWith("txtDisplay(");
-}
-
-void frmPressureDrop::keyTyped()
-{
-    model_.Form_KeyPress();
 }
 
 } // namespace kestrova

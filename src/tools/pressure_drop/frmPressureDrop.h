@@ -28,13 +28,11 @@ class frmPressureDrop : public DocumentForm {
 public:
     frmPressureDrop(PressureDropModel& model, UserInterface& ui, QWidget* parent = nullptr);
 
-    void render();
-    QSize sizeHint() const override;
+    void render() override;
 
 protected:
     void commit(QLineEdit* field) override;
     bool numericField(const QLineEdit& field, bool& minusAllowed) const override;
-    void keyTyped() override;
 
 private:
     QWidget* buildLiquidTab();

@@ -104,6 +104,10 @@ frmPhysicalProperties::frmPhysicalProperties(PhysicalPropertiesModel& model, Use
     buttons->addWidget(select_);
     buttons->addWidget(button("cmdClose", "&Close", [this] { model_.cmdClose_Click(); }));
     onCancel = [this] { model_.cmdClose_Click(); };
+    onShow = [this] {
+        model_.Form_Activate();
+        search_->setFocus();
+    };
     auto* right = new QVBoxLayout;
     right->addWidget(frame_);
     right->addLayout(buttons);
@@ -111,13 +115,6 @@ frmPhysicalProperties::frmPhysicalProperties(PhysicalPropertiesModel& model, Use
     layout->addLayout(left, 1);
     layout->addLayout(right, 2);
     resize(880, 480);
-}
-
-void frmPhysicalProperties::showEvent(QShowEvent* event)
-{
-    model_.Form_Activate();
-    ToolDialog::showEvent(event);
-    search_->setFocus();
 }
 
 void frmPhysicalProperties::render()
@@ -189,6 +186,7 @@ QHBoxLayout* GasCalculatorDialog::calculatorButtons(Model& model, bool dataBaseV
     buttons->addWidget(apply);
     buttons->addWidget(button("cmdClose", "&Close", [&model] { model.cmdClose_Click(); }));
     onCancel = [&model] { model.cmdClose_Click(); };
+    onShow = [&model] { model.Form_Activate(); };
     return buttons;
 }
 
@@ -235,12 +233,6 @@ frmCompressFactor::frmCompressFactor(CompressFactorModel& model, UserInterface& 
     layout->addLayout(buttons);
 }
 
-void frmCompressFactor::showEvent(QShowEvent* event)
-{
-    model_.Form_Activate();
-    ToolDialog::showEvent(event);
-}
-
 void frmCompressFactor::render()
 {
     inputs_->setTitle(QString::fromStdString(model_.inputsCaption));
@@ -284,12 +276,6 @@ frmHeatCapRatio::frmHeatCapRatio(HeatCapRatioModel& model, UserInterface& ui, bo
     layout->addWidget(realGas_);
     layout->addWidget(typical);
     layout->addLayout(buttons);
-}
-
-void frmHeatCapRatio::showEvent(QShowEvent* event)
-{
-    model_.Form_Activate();
-    ToolDialog::showEvent(event);
 }
 
 void frmHeatCapRatio::render()

@@ -25,7 +25,6 @@ public:
 
 protected:
     void render() override;
-    void showEvent(QShowEvent* event) override;
 
 private:
     PhysicalPropertiesModel& model_;
@@ -65,7 +64,6 @@ public:
 
 protected:
     void render() override;
-    void showEvent(QShowEvent* event) override;
 
 private:
     CompressFactorModel& model_;
@@ -80,7 +78,6 @@ public:
 
 protected:
     void render() override;
-    void showEvent(QShowEvent* event) override;
 
 private:
     HeatCapRatioModel& model_;

@@ -16,22 +16,14 @@ namespace {
 // The tool's own field kinds; the results of head and power are never typed.
 const FieldKind kFlow{"Flow Rate", FlowToUnit, FlowFromUnit,
                       {"##,##0", "##,##0.00", "##,##0.0000", "##,##0.00", "##,##0.000", "##,##0.000"}};
-const FieldKind kPressure{"Pressure", PressureToUnit, PressureFromUnit,
-                          {"##,##0.00", "##,##0.00", "##,##0.00", "##,##0.00", "##,##0.00", "##,##0.00", "##,##0.00",
-                           "##,##0.00"}};
-const FieldKind kPressureDrop{"Pressure Drop", PressureToUnit, PressureFromUnit,
-                              {"##,##0.00", "##,##0.00", "##,##0.00", "##,##0.00", "##,##0.00", "##,##0.00",
-                               "##,##0.00", "##,##0.00"}};
+const FieldKind kPressureDrop{"Pressure Drop", PressureToUnit, PressureFromUnit, sameMask("##,##0.00")};
 const FieldKind kMinimumDrop{"Pressure Drop", PressureToUnit, PressureFromUnit,
                              {"##,##0", "##,##0.0", "##,##0.0", "##,##0.0", "##,##0.0", "##,##0.0", "##,##0.0",
                               "##,##0.0"}};
-const FieldKind kVaporPressure{"Vapor Pressure", PressureToUnit, PressureFromUnit,
-                               {"##,##0.000", "##,##0.000", "##,##0.000", "##,##0.000", "##,##0.000", "##,##0.000",
-                                "##,##0.000", "##,##0.000"}};
-const FieldKind kHead{"Head", HeadToUnit, nullptr, {"##,##0.00", "##,##0.00"}};
-const FieldKind kPower{"Power", PowerToUnit, nullptr, {"##,##0.00", "##,##0.00"}};
-const FieldKind kGridViscosity{"Viscosity", ViscosityToUnit, ViscosityFromUnit,
-                               {"0.00E+00", "0.00E+00", "0.00E+00", "0.00E+00"}};
+const FieldKind kVaporPressure{"Vapor Pressure", PressureToUnit, PressureFromUnit, sameMask("##,##0.000")};
+const FieldKind kHead{"Head", HeadToUnit, nullptr, sameMask("##,##0.00")};
+const FieldKind kPower{"Power", PowerToUnit, nullptr, sameMask("##,##0.00")};
+const FieldKind kGridViscosity{"Viscosity", ViscosityToUnit, ViscosityFromUnit, sameMask("0.00E+00")};
 const FieldKind kGridDensity{"Density", DensityToUnit, DensityFromUnit,
                              {"##,##0.00", "##,##0.0000", "##,##0.0", "##,##0.000"}};
 
@@ -41,7 +33,7 @@ constexpr std::array<int, 6> kTerminals{5, 6, 8, 10, 11, 3};
 const FieldKind& fieldKind(int field)
 {
     if (field < 18)
-        return field % 3 == 0 ? kFlow : field % 3 == 1 ? kPressure : field_kinds::length;
+        return field % 3 == 0 ? kFlow : field % 3 == 1 ? field_kinds::pressure : field_kinds::length;
     switch (field) {
     case 18: return field_kinds::length;
     case 25: return kVaporPressure;
@@ -50,7 +42,7 @@ const FieldKind& fieldKind(int field)
     case 29: return kHead;
     case 30: return kPower;
     case 31:
-    case 32: return kPressure;
+    case 32: return field_kinds::pressure;
     case 33: return kMinimumDrop;
     default: return kPressureDrop; // the valve drops 19 to 24 and the pressure increase 28
     }
@@ -116,7 +108,7 @@ const std::array<GridRow, 11> kGridLists{{
     {13, &kPressureDrop, Quantity::PressureDrop},
     {14, &kPressureDrop, Quantity::PressureDrop},
     {15, &kPressureDrop, Quantity::PressureDrop},
-    {16, &kPressure, Quantity::Pressure},
+    {16, &field_kinds::pressure, Quantity::Pressure},
 }};
 
 const LineValues* rowValues(const NetworkState& s, const SegmentData& g, int row)
