@@ -59,6 +59,13 @@ private:
         return QTest::qWaitForWindowActive(&frame);
     }
 
+    // Types each text into its field in turn, leaving each.
+    void typeAll(QWidget* form, std::initializer_list<std::pair<const char*, const char*>> texts)
+    {
+        for (const auto& [name, text] : texts)
+            type(control<QLineEdit>(form, name), text);
+    }
+
     void type(QLineEdit* field, const QString& text)
     {
         field->setFocus();
@@ -88,11 +95,8 @@ private slots:
         QCOMPARE(form->objectName(), QString("frmPressureDrop"));
         QVERIFY(frame.toolbarButton("Print")->isEnabled());
 
-        type(control<QLineEdit>(form, "txtData(0)"), "36000");
-        type(control<QLineEdit>(form, "txtData(1)"), "62.4");
-        type(control<QLineEdit>(form, "txtData(2)"), "1");
-        type(control<QLineEdit>(form, "txtData(5)"), "6.065");
-        type(control<QLineEdit>(form, "txtData(6)"), "0.00015");
+        typeAll(form, {{"txtData(0)", "36000"}, {"txtData(1)", "62.4"}, {"txtData(2)", "1"}, {"txtData(5)", "6.065"},
+                       {"txtData(6)", "0.00015"}});
         QCOMPARE(model->record.LiquidFlow.value(), 36000.0f);
         QCOMPARE(control<QLineEdit>(form, "txtData(0)")->text(), QString("36,000.00"));
         QCOMPARE(control<QLineEdit>(form, "txtData(9)")->text(), QString("0.799"));
@@ -148,12 +152,8 @@ private slots:
         QWidget* form = frame.mdiArea()->activeSubWindow()->widget();
         QCOMPARE(form->objectName(), QString("frmOrificePlates"));
         QVERIFY(control<QLineEdit>(form, "txtData(0)")->isReadOnly()); // the solved flow
-        type(control<QLineEdit>(form, "txtData(1)"), "10");
-        type(control<QLineEdit>(form, "txtData(3)"), "68");
-        type(control<QLineEdit>(form, "txtData(4)"), "62.4");
-        type(control<QLineEdit>(form, "txtData(5)"), "1");
-        type(control<QLineEdit>(form, "txtData(2)"), "2.013");
-        type(control<QLineEdit>(form, "txtData(9)"), "4.026");
+        typeAll(form, {{"txtData(1)", "10"}, {"txtData(3)", "68"}, {"txtData(4)", "62.4"}, {"txtData(5)", "1"},
+                       {"txtData(2)", "2.013"}, {"txtData(9)", "4.026"}});
         QCOMPARE(control<QLineEdit>(form, "txtData(0)")->text(), QString("119,542.23"));
         QCOMPARE(control<QLineEdit>(form, "txtDisplay(1)")->text(), QString("0.6050"));
         control<QRadioButton>(form, "optCompute(2)")->click(); // now the bore is solved
@@ -179,14 +179,8 @@ private slots:
         PressureDropModel* model = frame.mnuToolsPressureDrop_Click();
         QWidget* form = frame.mdiArea()->activeSubWindow()->widget();
         model->SSTab1_Click(1);
-        type(control<QLineEdit>(form, "txtData(11)"), "30000");
-        type(control<QLineEdit>(form, "txtData(12)"), "100");
-        type(control<QLineEdit>(form, "txtData(14)"), "0.018");
-        type(control<QLineEdit>(form, "txtData(15)"), "4.026");
-        type(control<QLineEdit>(form, "txtData(17)"), "20000");
-        type(control<QLineEdit>(form, "txtDisplay(4)"), "28.97");
-        type(control<QLineEdit>(form, "txtDisplay(5)"), "1");
-        type(control<QLineEdit>(form, "txtDisplay(6)"), "1.4");
+        typeAll(form, {{"txtData(11)", "30000"}, {"txtData(12)", "100"}, {"txtData(14)", "0.018"}, {"txtData(15)", "4.026"},
+                       {"txtData(17)", "20000"}, {"txtDisplay(4)", "28.97"}, {"txtDisplay(5)", "1"}, {"txtDisplay(6)", "1.4"}});
         QGroupBox* results = control<QGroupBox>(form, "Frame1(5)");
         QCOMPARE(results->title(), QString("Calculated Results, Flow Type = Choked Flow at Outlet"));
         QVERIFY(results->font().bold());

@@ -4,6 +4,7 @@
 #include "datasheets/data_sheet.h"
 #include "frame/global_units.h"
 #include "frame/project_file.h"
+#include "frame/reopen.h"
 #include "frame/settings_store.h"
 #include "frame/scripted_user_interface.h"
 #include "tools/orifice/orifice_model.h"
@@ -162,10 +163,7 @@ TEST_F(OrificeFileTest, ReopeningGivesTheSameFiguresAndKeepsTypedCoefficients)
 
     ScriptedUserInterface other;
     OrificeModel again(other);
-    again.Form_Load();
-    again.Form_Activate();
-    again.setStrFileName(path("gas.ksv"));
-    ASSERT_TRUE(again.OpenSaveData("Open"));
+    ASSERT_TRUE(reopenIn(again, path("gas.ksv")));
     EXPECT_EQ(again.tab, 1);
     EXPECT_EQ(again.compute, 1);
     EXPECT_EQ(again.pipeMaterial[1], 19);

@@ -1,4 +1,5 @@
 #include "tools/pressure_drop/pressure_drop_fixture.h"
+#include "frame/reopen.h"
 
 #include "frame/project_file.h"
 
@@ -84,10 +85,7 @@ TEST_F(PressureDropFileTest, SaveAndReopenGivesTheSameFiguresAndBytes)
 
     ScriptedUserInterface otherUi;
     PressureDropModel reopened(otherUi);
-    reopened.Form_Load();
-    reopened.Form_Activate();
-    reopened.setStrFileName(path("line.ksv"));
-    ASSERT_TRUE(reopened.OpenSaveData("Open"));
+    ASSERT_TRUE(reopenIn(reopened, path("line.ksv")));
     EXPECT_FALSE(reopened.failed);
     EXPECT_EQ(reopened.txtData[10].text, data(10));
     EXPECT_EQ(reopened.txtData[9].text, data(9));
