@@ -308,12 +308,15 @@ private slots:
     }
 };
 
+int runFieldConventionsTests(int argc, char** argv); // field_conventions_test.cpp
+
 int main(int argc, char** argv)
 {
     QApplication app(argc, argv);
     FrameWidgetsTest frame;
     DialogWidgetsTest dialogs;
     PrintingAndSmallFormsTest printing;
-    return QTest::qExec(&frame, argc, argv) | QTest::qExec(&dialogs, argc, argv) | QTest::qExec(&printing, argc, argv);
+    return QTest::qExec(&frame, argc, argv) | QTest::qExec(&dialogs, argc, argv) | QTest::qExec(&printing, argc, argv) |
+           runFieldConventionsTests(argc, argv);
 }
 #include "frame_widgets_test.moc"

@@ -63,6 +63,7 @@ class FittingSketch : public QWidget {
 public:
     explicit FittingSketch(QWidget* form);
     void show(const QString& group) { group_ = group; update(); }
+    const QString& group() const { return group_; }
     QSize sizeHint() const override { return {140, 110}; }
 
 protected:
