@@ -184,3 +184,57 @@ TEST(ComputeOrifice, FailuresShowTheWarningsTheRunHadReached)
     EXPECT_EQ(over.displays[11], "-0.5000");
     EXPECT_EQ(over.errorGas.find("Exceeds"), std::string::npos);
 }
+
+TEST(ComputeOrifice, TapStylesChangeTheCoefficientAsTheirSpacings)
+{
+    // The same plate on flange, D and D/2 and corner taps: the coefficient
+    // each reports is the one the discharge coefficient function gives at
+    // the converged pipe Reynolds number, and the flows follow it.
+    std::array<double, 3> C{}, flow{};
+    for (TapStyle tap = 0; tap < 3; ++tap) {
+        OrificeData r = waterCase();
+        RecordingDisplay display;
+        ComputeOrifice(r, OrificeFluid::Liquid, OrificeUnknown::Flow, tap, display);
+        C[static_cast<size_t>(tap)] = parseFieldNumber(display.displays[1]);
+        flow[static_cast<size_t>(tap)] = r.liquidFlow;
+        std::string message;
+        const Single Re = parseFieldNumber(display.displays[2]);
+        EXPECT_NEAR(OrificeDischargeCoefficient(4.026, 0.5, Re, tap, message), C[static_cast<size_t>(tap)], 6e-5);
+    }
+    for (size_t t = 1; t < 3; ++t)
+        EXPECT_NEAR(flow[t] / flow[0], C[t] / C[0], 2e-4);
+    EXPECT_NE(C[0], C[2]);
+}
+
+TEST(ComputeOrifice, ThermalAndDrainHoleFactorsScaleTheFlow)
+{
+    OrificeData cold = waterCase();
+    RecordingDisplay display;
+    ComputeOrifice(cold, OrificeFluid::Liquid, OrificeUnknown::Flow, 0, display);
+
+    OrificeData hot = waterCase();
+    hot.temperature = 500;
+    hot.elementExpansion = 9.4e-6; // a stainless plate grows more than the carbon steel pipe
+    ComputeOrifice(hot, OrificeFluid::Liquid, OrificeUnknown::Flow, 0, display);
+    const double Fa = OrificeThermalFactor(0.5, 9.4e-6, 6.7e-6, 500, 68);
+    EXPECT_GT(std::fabs(Fa - 1), 5e-4);
+    EXPECT_NEAR(hot.liquidFlow / cold.liquidFlow, Fa, 2e-4);
+
+    OrificeData drained = waterCase();
+    drained.holeDiameter = 0.125;
+    ComputeOrifice(drained, OrificeFluid::Liquid, OrificeUnknown::Flow, 0, display);
+    const double Fd = OrificeDrainHoleFactor(0.5, 0.125, 4.026);
+    EXPECT_GT(Fd, 1);
+    EXPECT_NEAR(drained.liquidFlow / cold.liquidFlow, Fd, 2e-4);
+}
+
+TEST(ComputeOrifice, GasExpansionFactorIsLinearInTheDifferential)
+{
+    EXPECT_EQ(GasExpansionFactor(0.5, 0, 1.4, 100), 1);
+    const double expected = 1 - (std::pow(0.5, 4) * 0.35 + 0.41) * 10 / (1.4 * 100);
+    EXPECT_EQ(GasExpansionFactor(0.5, 10, 1.4, 100), Single(expected));
+    // Twice the differential, twice the drop from one.
+    const double once = 1 - static_cast<double>(GasExpansionFactor(0.6, 5, 1.3, 50));
+    const double twice = 1 - static_cast<double>(GasExpansionFactor(0.6, 10, 1.3, 50));
+    EXPECT_NEAR(twice, 2 * once, 1e-6);
+}

@@ -2,6 +2,7 @@
 // branches, valves and pump figures.
 
 #include "hydraulics/basTransportFunctions.h"
+#include "numeric/display_mask.h"
 #include "tools/pump_network/net_calc.h"
 
 #include <gtest/gtest.h>
@@ -200,4 +201,78 @@ TEST(NetCalc, AFailingStatementLeavesItsTargetAndTheRestRuns)
     EXPECT_EQ(quiet.PSuction, 0);
     EXPECT_EQ(quiet.PumpHead, 99);
     EXPECT_EQ(quiet.NPSHa, 12);
+}
+
+TEST(NetCalc, FittingsOnALineAddTheThreeConstantForm)
+{
+    NetworkDisplay none;
+    SegmentData g = waterLines();
+    NetworkState plain;
+    plain.NetFlow[8] = 20000;
+    NetCalc(plain, g, none);
+    // K = K1 / Re + K2 (1 + 1 / ID) + K3 on line 8, with the diameter in inches.
+    g.SegK1[8] = 800;
+    g.SegK2[8] = 0.25;
+    g.SegK3[8] = 0.5;
+    NetworkState fitted;
+    fitted.NetFlow[8] = 20000;
+    NetCalc(fitted, g, none);
+    const double V = fitted.NetVel[8];
+    const double K = 800 / static_cast<double>(fitted.NetRe[8]) + 0.25 * (1 + 1 / 4.026) + 0.5;
+    const double minor = static_cast<double>(MinorLossDrop(K, V)) * 62.4 / 144;
+    EXPECT_NEAR(fitted.NetDpLine[8] - plain.NetDpLine[8], minor, 1e-5);
+    // Lines without the flow of line 8 are untouched by its fittings.
+    EXPECT_EQ(fitted.NetDpLine[5], plain.NetDpLine[5]);
+    EXPECT_EQ(fitted.NetDpLine[4], plain.NetDpLine[4]);
+}
+
+TEST(NetCalc, TheStaticHeadComesFromTheTerminalLineAlone)
+{
+    NetworkDisplay none;
+    SegmentData g = waterLines();
+    g.SegDensity[10] = 50; // a lighter liquid at the end of line 10 only
+    NetworkState s;
+    s.NetFlow[10] = 10000;
+    s.NetHeight[10] = 100;
+    s.MinValveDp = 0;
+    s.LinePercentDp = 0;
+    NetCalc(s, g, none);
+    const double path = s.NetDpLine[10] + s.NetDpLine[9] + s.NetDpLine[4] + s.NetDpLine[2];
+    EXPECT_NEAR(s.NetDpStatic[10], 50 * 100 / 144.0, 1e-5);
+    EXPECT_NEAR(s.PDischarge, path + 50 * 100 / 144.0, 1e-4);
+    EXPECT_EQ(s.NetDpCV[10], 0); // the controlling branch gets its design drop, here none
+}
+
+TEST(NetCalc, AFlowingBranchThatDoesNotControlTakesTheRest)
+{
+    NetworkDisplay none;
+    const SegmentData g = waterLines();
+    NetworkState s;
+    s.NetFlow[5] = 10000;
+    s.NetFlow[11] = 10000;
+    s.NetPDest[5] = 20;
+    s.NetPDest[11] = 60; // line 11 controls
+    NetCalc(s, g, none);
+    const double path5 = s.NetDpLine[5] + s.NetDpLine[7] + s.NetDpLine[4] + s.NetDpLine[2];
+    EXPECT_NEAR(s.NetDpCV[11], 10, 1e-6); // its design drop: the floor of 10 psi
+    EXPECT_NEAR(s.NetDpCV[5], s.PDischarge - 20 - path5, 1e-4);
+    EXPECT_EQ(s.NetDpCV[6], 0); // no flow, no valve drop
+    EXPECT_EQ(s.NetFlow[7], 10000);
+    EXPECT_EQ(s.NetFlow[9], 10000);
+    EXPECT_EQ(s.NetFlow[2], 20000);
+}
+
+TEST(NetCalc, TheGridRowsOfReynoldsNumberAndFrictionFactor)
+{
+    struct Cells : NetworkDisplay {
+        void gridCell(int row, int column, const std::string& text) override { cells[{row, column}] = text; }
+        std::map<std::pair<int, int>, std::string> cells;
+    } display;
+    NetworkState s;
+    s.NetFlow[3] = 50000;
+    NetCalc(s, waterLines(), display);
+    EXPECT_EQ(display.cells.size(), 22u); // 11 lines in each of the two rows
+    EXPECT_EQ(display.cells.at({11, 4}), "78,436");
+    EXPECT_EQ(display.cells.at({12, 4}), formatMask(s.NetFd[3], "#0.00000"));
+    EXPECT_EQ(display.cells.at({12, 5}), "0.00000");
 }

@@ -97,3 +97,62 @@ TEST_F(PumpNetworkTest, ResetAsksAndReturnsEveryFieldToZero)
     EXPECT_EQ(cell(1, 3), "");
     EXPECT_TRUE(tool.modified);
 }
+
+TEST_F(PumpNetworkTest, ValveAndDestinationRowsHaveCellsOnlyForValveLines)
+{
+    type(15, "50,000");
+    type(16, "100");
+    type(1, "200");
+    // Lines 1, 2, 4, 7 and 9 end at no valve: their cells in rows 15 and 16 stay empty.
+    for (int line : {1, 2, 4, 7, 9}) {
+        EXPECT_EQ(cell(15, line), "") << line;
+        EXPECT_EQ(cell(16, line), "") << line;
+    }
+    EXPECT_EQ(cell(16, 3), "100.00");
+    EXPECT_EQ(cell(16, 5), "200.00");
+    EXPECT_EQ(cell(15, 3), "100.00");
+    // The destination row follows its own unit list.
+    tool.setUnit(44, 1); // atm
+    EXPECT_EQ(cell(16, 5), "13.61");
+    EXPECT_EQ(tool.txtData[1], "200.00");
+}
+
+TEST_F(PumpNetworkTest, PercentFieldsShowTheirNumberPlainlyAndReadEmptyAsZero)
+{
+    tool.txtMinValvePercentdP = "25";
+    tool.txtMinValvePercentdP_LostFocus();
+    EXPECT_EQ(tool.state.LinePercentDp, 25);
+    tool.txtMinValvePercentdP = "";
+    tool.txtMinValvePercentdP_LostFocus();
+    EXPECT_EQ(tool.txtMinValvePercentdP, "0"); // an empty text reads 0
+    tool.txtHydraulicEff = "80.5";
+    tool.txtHydraulicEff_LostFocus();
+    EXPECT_EQ(tool.state.PumpEff, Single(80.5));
+    EXPECT_EQ(tool.txtHydraulicEff, "80.5");
+}
+
+TEST_F(PumpNetworkTest, FittingConstantsShowFromTheMinorLossStore)
+{
+    minorLossStore().SegK1[4] = 1500;
+    minorLossStore().SegK2[4] = 0.75;
+    minorLossStore().SegK3[4] = 0.5;
+    type(0, "10,000"); // any edit runs a pass that refreshes the grid
+    EXPECT_EQ(cell(4, 4), "1,500.0");
+    EXPECT_EQ(cell(5, 4), "0.750");
+    EXPECT_EQ(cell(6, 4), "0.500");
+    EXPECT_EQ(cell(4, 5), ""); // zero constants show empty
+    EXPECT_EQ(tool.segments.SegK1[4], 1500); // and the pass uses them
+}
+
+TEST_F(PumpNetworkTest, AHeightFieldChangesTheStaticHeadOfItsLine)
+{
+    tool.segments.SegRough[6] = 0.00015;
+    for (int line : {2, 4, 7})
+        tool.segments.SegRough[line] = 0.00015;
+    type(3, "20,000"); // line 6
+    type(5, "50");      // 50 ft up
+    EXPECT_EQ(tool.state.NetHeight[6], 50);
+    EXPECT_NEAR(tool.state.NetDpStatic[6], 62.4 * 50 / 144, 1e-5);
+    tool.setUnit(5, 4); // m
+    EXPECT_EQ(tool.txtData[5], "15.24");
+}
