@@ -168,3 +168,57 @@ TEST(ReportTemplates, LinesAreReadOrRefused)
     const auto fits = write("field Flow | Flowrate | FUnits\n");
     EXPECT_TRUE(dataSheetHtml(*fits, row)->contains("1 &lt; 2"));
 }
+
+TEST(DataSheetLayout, CompanyBlockHeadsTheSheetAndSectionsHoldTheirFields)
+{
+    QTemporaryDir dir;
+    QFile file(dir.filePath("sheet.rpt"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("heading Orifice Plate\nsection Output\nfield Beta Ratio | BetaRatio\nfield Velocity | V | VU\n"
+               "section Pipe Data\nfield Pipe ID | ID | IDU\n");
+    file.close();
+    const auto layout = readReportTemplate(file.fileName());
+    ASSERT_TRUE(layout.has_value());
+    const DataSheetColumns row{{"BetaRatio", "0.5000"}, {"V", "6.019"}, {"VU", "ft/s"},   {"ID", "4.0260"},
+                               {"IDU", "in"},           {"Company", "Hydro Works"},      {"Address", ""},
+                               {"City", "Leeds"},       {"State", ""},  {"Zip", "LS1 4AP"}, {"Country", "UK"}};
+    const QString html = dataSheetHtml(*layout, row).value();
+    // City, state and postal code share a line; empty lines are left out.
+    EXPECT_TRUE(html.contains("<b>Hydro Works<br>Leeds LS1 4AP<br>UK</b>"));
+    EXPECT_TRUE(html.contains("<h2>Orifice Plate</h2>"));
+    // Each section opens its own table, closed before the next one.
+    EXPECT_EQ(html.count("<table"), 2);
+    EXPECT_EQ(html.count("</table>"), 2);
+    EXPECT_LT(html.indexOf("Output"), html.indexOf("Beta Ratio"));
+    EXPECT_LT(html.indexOf("Velocity"), html.indexOf("Pipe Data"));
+    EXPECT_TRUE(html.contains(">6.019</td><td width=\"25%\">ft/s<"));
+
+    // Without any company text there is no block at all.
+    DataSheetColumns bare = row;
+    for (auto& [name, text] : bare)
+        if (name == "Company" || name == "City" || name == "Zip" || name == "Country")
+            text.clear();
+    EXPECT_FALSE(dataSheetHtml(*layout, bare).value().contains("<p align=\"right\">"));
+}
+
+TEST(DataSheetLayout, OptionCaptionsLoseOnlyTheirLeadingSign)
+{
+    EXPECT_EQ(captionWithoutAccelerator("&Circular"), "Circular");
+    EXPECT_EQ(captionWithoutAccelerator("&D and D/2 Taps"), "D and D/2 Taps");
+    EXPECT_EQ(captionWithoutAccelerator(""), "");
+}
+
+TEST(DataSheetLayout, AStagingFileThatCannotBeWrittenStillEndsInTheFailureMessage)
+{
+    QTemporaryDir dir;
+    const QString folder = dir.filePath("no-such-folder/deeper"); // the staging file cannot be made here
+    SettingsStore store(dir.filePath("Kestrova.ini"));
+    ScriptedUserInterface ui;
+    ui.reportResult = 2; // the report finds no row
+    DataSheetPrinter printer(ui, store, folder);
+    printer.print({"PDLiquid", "pdliquid.rpt", "Liquid Pressure Drop"}, {{"Project", "x"}});
+    ASSERT_EQ(ui.reports.size(), 1u);
+    EXPECT_FALSE(ui.reports[0].row.has_value());
+    ASSERT_EQ(ui.messages.size(), 1u);
+    EXPECT_EQ(ui.messages[0].title, "Report Generation Error");
+}

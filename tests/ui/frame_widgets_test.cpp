@@ -170,6 +170,44 @@ private slots:
         QVERIFY(frame.close()); // nothing changed since the save: no question
     }
 
+    void filesOpenInTheToolOfTheirKind()
+    {
+        QTemporaryDir dir;
+        // A saved orifice case and a saved pressure drop case, written by the tools.
+        {
+            ScriptedUserInterface ui;
+            OrificeModel plate(ui);
+            plate.Form_Load();
+            plate.record.pipeID = 4.026;
+            plate.txtProject[0] = "Meter run";
+            plate.setStrFileName(dir.filePath("plate.ksv").toStdString());
+            QVERIFY(plate.OpenSaveData("Save"));
+            PressureDropModel line(ui);
+            line.Form_Load();
+            line.setStrFileName(dir.filePath("line.ksv").toStdString());
+            QVERIFY(line.OpenSaveData("Save"));
+        }
+        SettingsStore store(dir.filePath("Kestrova.ini"));
+        frmMain frame(store);
+        QVERIFY(shownAndActive(frame));
+        frame.openFile(dir.filePath("plate.ksv"));
+        QWidget* front = frame.mdiArea()->activeSubWindow()->widget();
+        QCOMPARE(front->objectName(), QString("frmOrificePlates"));
+        QCOMPARE(control<QLineEdit>(front, "txtData(9)")->text(), QString("4.0260"));
+        QCOMPARE(control<QLineEdit>(front, "txtProject(0)")->text(), QString("Meter run"));
+        frame.openFile(dir.filePath("line.ksv"));
+        QCOMPARE(frame.mdiArea()->activeSubWindow()->widget()->objectName(), QString("frmPressureDrop"));
+        QCOMPARE(frame.mdiArea()->subWindowList().size(), 2);
+        // Both files stand in the recent list, the last opened first.
+        QCOMPARE(frame.action("mnuFileMRU(1)")->text().contains("line.ksv"), true);
+        QCOMPARE(frame.action("mnuFileMRU(2)")->text().contains("plate.ksv"), true);
+        // Opening the orifice file again brings its window forward; no second one.
+        frame.openFile(dir.filePath("plate.ksv"));
+        QCOMPARE(frame.mdiArea()->subWindowList().size(), 2);
+        QCOMPARE(frame.mdiArea()->activeSubWindow()->widget()->objectName(), QString("frmOrificePlates"));
+        QVERIFY(frame.close());
+    }
+
     void gasResultsFrameTurnsRedWhenChoked()
     {
         QTemporaryDir dir;
