@@ -10,7 +10,12 @@
 #include "frame/project_file.h"
 #include "tools/orifice/orifice_model.h"
 #include "frame/scripted_user_interface.h"
+#include "tools/flow/flow_dialogs.h"
+#include "tools/flow/gas_density_model.h"
 #include "tools/piping/piping_dialogs.h"
+#include "tools/piping/reducer_model.h"
+#include "tools/piping/roughness_model.h"
+#include "frame/global_units.h"
 #include "tools/properties/property_dialogs.h"
 #include "frame/settings_store.h"
 #include "tools/pressure_drop/pressure_drop_model.h"
@@ -247,6 +252,72 @@ private slots:
         QVERIFY(!dialog.findChild<QPushButton*>("cmdSelect")->isEnabled()); // a viewer by itself
         dialog.findChild<QRadioButton*>("optASTMMaterial(2)")->click();
         QCOMPARE(dialog.findChild<QListWidget*>("lstMaterial(0)")->item(0)->text(), QString("Copper (ASTM B88)"));
+    }
+
+    static bool shownInFront(QWidget& dialog)
+    {
+        dialog.show();
+        dialog.activateWindow();
+        return QTest::qWaitForWindowActive(&dialog);
+    }
+
+    // Types into a dialog's field and leaves it, as a user would.
+    static void typeInto(QWidget* dialog, const char* name, const QString& text)
+    {
+        auto* field = dialog->findChild<QLineEdit*>(name);
+        QVERIFY2(field, name);
+        field->setFocus();
+        field->selectAll();
+        QTest::keyClicks(field, text);
+        field->clearFocus();
+    }
+
+    void gasDensityFromTypedFields()
+    {
+        globalUnits() = GlobalUnits{};
+        ScriptedUserInterface ui;
+        GasDensityModel model(ui);
+        model.Form_Load();
+        frmGasDensity dialog(model, ui, nullptr);
+        QVERIFY(shownInFront(dialog)); // fields commit when they lose the focus
+        typeInto(&dialog, "txtData(0)", "60");
+        typeInto(&dialog, "txtData(1)", "14.696");
+        typeInto(&dialog, "txtData(3)", "28.97");
+        typeInto(&dialog, "txtData(4)", "1");
+        QCOMPARE(dialog.findChild<QLineEdit*>("txtData(2)")->text(), QString("0.0763")); // air at 60 °F, 1 atm
+        QVERIFY(dialog.findChild<QLineEdit*>("txtData(2)")->isReadOnly());
+    }
+
+    void roughnessOptionsShowTheirValueNewAndUsed()
+    {
+        globalUnits() = GlobalUnits{};
+        ScriptedUserInterface ui;
+        RoughnessModel model(ui, nullptr);
+        model.Form_Load();
+        model.Form_Activate();
+        frmRoughness dialog(model, ui, nullptr);
+        QVERIFY(shownInFront(dialog)); // fields commit when they lose the focus
+        dialog.findChild<QRadioButton*>("optPipeRoughness(8)")->click(); // glass
+        QCOMPARE(dialog.findChild<QLineEdit*>("txtData")->text(), QString("0.000001"));
+        dialog.findChild<QRadioButton*>("optPipeCondition(1)")->click(); // used: three times rougher
+        QCOMPARE(model.roughness, Single(0.000003));
+    }
+
+    void enlargementRowFromAngleAndBeta()
+    {
+        ScriptedUserInterface ui;
+        ReducerModel model(ReducerKind::Enlargement, ui);
+        model.Form_Load();
+        frmReducer dialog(model, ui, nullptr);
+        QVERIFY(shownInFront(dialog)); // fields commit when they lose the focus
+        QCOMPARE(dialog.objectName(), QString("frmEnlargements"));
+        typeInto(&dialog, "txtAngle(0)", "10");
+        typeInto(&dialog, "txtBeta(0)", "0.5");
+        // 2.6 sin(5°) (1 - 0.25)² = 0.1275
+        QCOMPARE(dialog.findChild<QLineEdit*>("txtKValue(0)")->text(), QString("0.128"));
+        auto* sketch = dialog.findChild<FittingSketch*>("imgFitting");
+        dialog.findChild<QLineEdit*>("txtBeta(0)")->setFocus();
+        QTRY_COMPARE(sketch->group(), QString("Gradual"));
     }
 
     void compoundListIsSearchedByTyping()
