@@ -162,6 +162,11 @@ bool saveProjectFile(UserInterface& ui, const std::string& title, const std::str
     return false;
 }
 
+bool saveProjectFile(UserInterface& ui, const DocumentTool& tool, const QByteArray& bytes)
+{
+    return saveProjectFile(ui, tool.toolTitle(), tool.strFileName(), bytes);
+}
+
 bool readProjectFileBytes(UserInterface& ui, const std::string& title, const std::string& path, std::int16_t kind,
                           const std::string& wrongKind, QByteArray& bytes)
 {

@@ -3,6 +3,7 @@
 // tool's record, little-endian and without padding. Texts are variant strings:
 // a 16-bit type word 8, a 16-bit length, then single-byte Windows-1252 text.
 
+#include "frame/document_tool.h"
 #include "numeric/single.h"
 
 #include <QByteArray>
@@ -82,6 +83,8 @@ class UserInterface;
 // A document tool's save: the bytes written safely, or a message under the
 // tool's title saying why not, the data on screen unchanged.
 bool saveProjectFile(UserInterface& ui, const std::string& title, const std::string& path, const QByteArray& bytes);
+// The same for a tool's own file, under its own title.
+bool saveProjectFile(UserInterface& ui, const DocumentTool& tool, const QByteArray& bytes);
 
 // A document tool's open: the bytes after the file kind, or a message under
 // the tool's title (`wrongKind` when the file belongs to another tool) and
@@ -92,6 +95,9 @@ bool openProjectFile(UserInterface& ui, const std::string& title, const std::str
                      const std::string& wrongKind, Read read, Record& record);
 bool readProjectFileBytes(UserInterface& ui, const std::string& title, const std::string& path, std::int16_t kind,
                           const std::string& wrongKind, QByteArray& bytes);
+// The tool's own file, kind and title.
+template <typename Record, typename Read>
+bool openToolFile(UserInterface& ui, const DocumentTool& tool, const std::string& wrongKind, Read read, Record& record);
 void reportDamagedFile(UserInterface& ui, const std::string& title);
 
 template <typename Record, typename Read>
@@ -109,6 +115,12 @@ bool openProjectFile(UserInterface& ui, const std::string& title, const std::str
         return false;
     }
     return true;
+}
+
+template <typename Record, typename Read>
+bool openToolFile(UserInterface& ui, const DocumentTool& tool, const std::string& wrongKind, Read read, Record& record)
+{
+    return openProjectFile(ui, tool.toolTitle(), tool.strFileName(), tool.fileKind(), wrongKind, read, record);
 }
 
 } // namespace kestrova

@@ -53,6 +53,16 @@ void walkRecord(Io& io, File& f)
         io.field(*value);
 }
 
+// The physical properties the file keeps, each beside its place in the file.
+std::array<std::pair<Single*, Single*>, 5> savedProperties(PhysProps& props, OrificeFile& f)
+{
+    return {{{&props.heatCapacity, &f.heatCapacity},
+             {&props.acentricFactor, &f.acentricFactor},
+             {&props.molecularWeight, &f.molecularWeight},
+             {&props.criticalTemperature, &f.criticalTemperature},
+             {&props.criticalPressure, &f.criticalPressure}}};
+}
+
 OrificeFile readRecord(RecordReader& in)
 {
     OrificeFile f;
@@ -76,7 +86,7 @@ bool OrificeModel::OpenSaveData(const std::string& operation)
 
 bool OrificeModel::saveFile()
 {
-    const PhysProps& props = physProps();
+    PhysProps& props = physProps();
     OrificeFile f;
     f.tab = static_cast<std::int16_t>(tab);
     f.computeOption = static_cast<std::int16_t>(compute + 3 * tab); // as the control arrays number them
@@ -88,22 +98,18 @@ bool OrificeModel::saveFile()
     f.liquidName = liquidName;
     f.gasName = gasName;
     f.compoundPosition = rememberedCompoundPosition();
-    f.heatCapacity = props.heatCapacity;
-    f.acentricFactor = props.acentricFactor;
-    f.molecularWeight = props.molecularWeight;
-    f.criticalTemperature = props.criticalTemperature;
-    f.criticalPressure = props.criticalPressure;
+    for (const auto& [kept, value] : savedProperties(props, f))
+        *value = *kept;
     RecordWriter out;
     out.integer16(kOrificeKind);
     walkRecord(out, f);
-    return saveProjectFile(ui_, kTitle, fileName_, out.bytes());
+    return saveProjectFile(ui_, *this, out.bytes());
 }
 
 bool OrificeModel::openFile()
 {
     OrificeFile file;
-    if (!openProjectFile(ui_, kTitle, fileName_, kOrificeKind, "This is not an Orifice Plate data file.", readRecord,
-                         file))
+    if (!openToolFile(ui_, *this, "This is not an Orifice Plate data file.", readRecord, file))
         return false;
     // The other tab first, so that the tab handler runs in every case; then
     // the options and materials through their handlers.
@@ -126,12 +132,8 @@ bool OrificeModel::openFile()
     liquidName = file.liquidName;
     gasName = file.gasName;
     rememberedCompoundPosition() = file.compoundPosition;
-    PhysProps& props = physProps();
-    props.heatCapacity = file.heatCapacity;
-    props.acentricFactor = file.acentricFactor;
-    props.molecularWeight = file.molecularWeight;
-    props.criticalTemperature = file.criticalTemperature;
-    props.criticalPressure = file.criticalPressure;
+    for (const auto& [kept, value] : savedProperties(physProps(), file))
+        *kept = *value;
     propertiesCaption = {"Properties:  " + liquidName, "Properties:  " + gasName};
     for (int i = 0; i < kFields; ++i)
         showField(i);

@@ -111,14 +111,13 @@ bool PressureDropModel::saveFile()
                          props.acentricFactor})
         out.single(value);
 
-    return saveProjectFile(ui_, kTitle, fileName_, out.bytes());
+    return saveProjectFile(ui_, *this, out.bytes());
 }
 
 bool PressureDropModel::openFile()
 {
     PressureDropFile file;
-    if (!openProjectFile(ui_, kTitle, fileName_, kPressureDropKind, "This is not a Pressure Drop data file.", readRecord,
-                         file))
+    if (!openToolFile(ui_, *this, "This is not a Pressure Drop data file.", readRecord, file))
         return false;
 
     // The tab and the options, each through its click routine.
