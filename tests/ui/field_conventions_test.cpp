@@ -38,6 +38,14 @@ bool refused(const QString& text, int selectionStart, int selectionLength, const
 class FieldConventionsTest : public QObject {
     Q_OBJECT
 
+    static bool exposed(QWidget& window)
+    {
+        window.show();
+        return QTest::qWaitForWindowExposed(&window);
+    }
+
+    ScriptedUserInterface ui_;
+
 private slots:
     void numericKeysPassOncePerSign_data()
     {
@@ -124,12 +132,10 @@ private slots:
     void fittingSketchFollowsTheFocusedField()
     {
         minorLossStore() = MinorLossStore{};
-        ScriptedUserInterface ui;
-        MinorLossesModel model(ui);
+        MinorLossesModel model(ui_);
         model.Form_Load();
-        frmMinorLosses dialog(model, ui, nullptr);
-        dialog.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        frmMinorLosses dialog(model, ui_, nullptr);
+        QVERIFY(exposed(dialog));
         auto* sketch = dialog.findChild<FittingSketch*>("imgFitting");
         QVERIFY(sketch);
         QCOMPARE(sketch->group(), QString());

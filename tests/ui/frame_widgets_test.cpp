@@ -43,6 +43,13 @@
 
 using namespace kestrova;
 
+// A frame with settings of its own in a folder of its own.
+struct FrameUnderTest {
+    QTemporaryDir dir;
+    SettingsStore store{dir.filePath("Kestrova.ini")};
+    frmMain frame{store};
+};
+
 class FrameWidgetsTest : public QObject {
     Q_OBJECT
 
@@ -55,6 +62,8 @@ private:
             qFatal("no control %s", qPrintable(name));
         return found;
     }
+
+    static QWidget* frontForm(frmMain& frame) { return frame.mdiArea()->activeSubWindow()->widget(); }
 
     // A frame of its own, shown and in front, as at the start of the program.
     static bool shownAndActive(frmMain& frame)
@@ -84,10 +93,9 @@ private slots:
 
     void pressureDropToolThroughTheFrame()
     {
-        QTemporaryDir dir;
-        SettingsStore store(dir.filePath("Kestrova.ini"));
-        frmMain frame(store);
-        QVERIFY(shownAndActive(frame));
+        FrameUnderTest under;
+        QVERIFY(shownAndActive(under.frame));
+        frmMain& frame = under.frame;
         QVERIFY(!frame.action("mnuFileSave")->isEnabled());
         QVERIFY(!frame.toolbarButton("Save")->isEnabled());
         QVERIFY(frame.action("mnuFileOpen")->isEnabled());
@@ -96,7 +104,7 @@ private slots:
         frame.action("mnuToolsPressureDrop")->trigger();
         PressureDropModel* model = frame.mnuToolsPressureDrop_Click();
         QVERIFY(model);
-        QWidget* form = frame.mdiArea()->activeSubWindow()->widget();
+        QWidget* form = frontForm(frame);
         QCOMPARE(form->objectName(), QString("frmPressureDrop"));
         QVERIFY(frame.toolbarButton("Print")->isEnabled());
 
@@ -131,7 +139,7 @@ private slots:
         control<QRadioButton>(form, "optCrossSection(0)")->click();
 
         // Save through the frame with a file name already given.
-        const QString path = dir.filePath("case.ksv");
+        const QString path = under.dir.filePath("case.ksv");
         model->setStrFileName(path.toStdString());
         frame.action("mnuFileSave")->trigger();
         QVERIFY(QFileInfo::exists(path));
@@ -142,19 +150,18 @@ private slots:
         // The regime map opens beside the tool.
         frame.action("mnuView2PhaseHorizontal")->trigger();
         QCOMPARE(frame.mdiArea()->subWindowList().size(), 2);
-        QVERIFY(frame.mdiArea()->activeSubWindow()->widget()->findChild<QWidget*>("Image1"));
+        QVERIFY(frontForm(frame)->findChild<QWidget*>("Image1"));
         QVERIFY(frame.close());
     }
 
     void orificeToolThroughTheFrame()
     {
-        QTemporaryDir dir;
-        SettingsStore store(dir.filePath("Kestrova.ini"));
-        frmMain frame(store);
-        QVERIFY(shownAndActive(frame));
+        FrameUnderTest under;
+        QVERIFY(shownAndActive(under.frame));
+        frmMain& frame = under.frame;
         OrificeModel* model = frame.mnuToolsRestrictionOrifices_Click();
         QVERIFY(model);
-        QWidget* form = frame.mdiArea()->activeSubWindow()->widget();
+        QWidget* form = frontForm(frame);
         QCOMPARE(form->objectName(), QString("frmOrificePlates"));
         QVERIFY(control<QLineEdit>(form, "txtData(0)")->isReadOnly()); // the solved flow
         typeAll(form, {{"txtData(1)", "10"}, {"txtData(3)", "68"}, {"txtData(4)", "62.4"}, {"txtData(5)", "1"},
@@ -166,10 +173,10 @@ private slots:
         QVERIFY(!control<QLineEdit>(form, "txtData(0)")->isReadOnly());
         QVERIFY(frame.action("mnuFileSave")->isEnabled());
         // Save goes to the tool in front; with a file name it asks nothing, and the file is of kind 1.
-        model->setStrFileName(dir.filePath("plate.ksv").toStdString());
+        model->setStrFileName(under.dir.filePath("plate.ksv").toStdString());
         frame.action("mnuFileSave")->trigger();
         QByteArray bytes;
-        QVERIFY(readWholeFile(dir.filePath("plate.ksv"), bytes));
+        QVERIFY(readWholeFile(under.dir.filePath("plate.ksv"), bytes));
         QCOMPARE(fileKindOf(bytes), std::int16_t(1));
         QCOMPARE(frame.mdiArea()->activeSubWindow()->windowTitle(), QString("Orifice Plates: plate.ksv"));
         QVERIFY(frame.close()); // nothing changed since the save: no question
@@ -196,12 +203,12 @@ private slots:
         frmMain frame(store);
         QVERIFY(shownAndActive(frame));
         frame.openFile(dir.filePath("plate.ksv"));
-        QWidget* front = frame.mdiArea()->activeSubWindow()->widget();
+        QWidget* front = frontForm(frame);
         QCOMPARE(front->objectName(), QString("frmOrificePlates"));
         QCOMPARE(control<QLineEdit>(front, "txtData(9)")->text(), QString("4.0260"));
         QCOMPARE(control<QLineEdit>(front, "txtProject(0)")->text(), QString("Meter run"));
         frame.openFile(dir.filePath("line.ksv"));
-        QCOMPARE(frame.mdiArea()->activeSubWindow()->widget()->objectName(), QString("frmPressureDrop"));
+        QCOMPARE(frontForm(frame)->objectName(), QString("frmPressureDrop"));
         QCOMPARE(frame.mdiArea()->subWindowList().size(), 2);
         // Both files stand in the recent list, the last opened first.
         QCOMPARE(frame.action("mnuFileMRU(1)")->text().contains("line.ksv"), true);
@@ -209,18 +216,17 @@ private slots:
         // Opening the orifice file again brings its window forward; no second one.
         frame.openFile(dir.filePath("plate.ksv"));
         QCOMPARE(frame.mdiArea()->subWindowList().size(), 2);
-        QCOMPARE(frame.mdiArea()->activeSubWindow()->widget()->objectName(), QString("frmOrificePlates"));
+        QCOMPARE(frontForm(frame)->objectName(), QString("frmOrificePlates"));
         QVERIFY(frame.close());
     }
 
     void gasResultsFrameTurnsRedWhenChoked()
     {
-        QTemporaryDir dir;
-        SettingsStore store(dir.filePath("Kestrova.ini"));
-        frmMain frame(store);
-        QVERIFY(shownAndActive(frame));
+        FrameUnderTest under;
+        QVERIFY(shownAndActive(under.frame));
+        frmMain& frame = under.frame;
         PressureDropModel* model = frame.mnuToolsPressureDrop_Click();
-        QWidget* form = frame.mdiArea()->activeSubWindow()->widget();
+        QWidget* form = frontForm(frame);
         model->SSTab1_Click(1);
         typeAll(form, {{"txtData(11)", "30000"}, {"txtData(12)", "100"}, {"txtData(14)", "0.018"}, {"txtData(15)", "4.026"},
                        {"txtData(17)", "20000"}, {"txtDisplay(4)", "28.97"}, {"txtDisplay(5)", "1"}, {"txtDisplay(6)", "1.4"}});

@@ -217,26 +217,25 @@ void OrificeModel::optMeterTap_Click(int option)
 
 void OrificeModel::cboElementMaterial_Click(int tabIndex, int material)
 {
-    if (tabIndex < 0 || tabIndex > 1 || material < 0 || material >= kMaterials)
-        return;
-    ChangeNotice notice(*this);
-    elementMaterial[static_cast<size_t>(tabIndex)] = material;
-    record.elementExpansion = materials()[static_cast<size_t>(material)].coefficient;
-    const int field = kElementExpansionField[static_cast<size_t>(tabIndex)];
-    showField(field);
-    if (material == kMaterials - 1)
-        focusRequest = "txtData(" + std::to_string(field) + ")"; // "Other!": the user types it
-    ComputeOrifice();
+    chooseMaterial(tabIndex, material, elementMaterial, record.elementExpansion, kElementExpansionField);
 }
 
 void OrificeModel::cboPipeMaterial_Click(int tabIndex, int material)
 {
+    chooseMaterial(tabIndex, material, pipeMaterial, record.pipeExpansion, kPipeExpansionField);
+}
+
+// A material from the list sets its coefficient; "Other!" zeroes it and asks
+// for it to be typed.
+void OrificeModel::chooseMaterial(int tabIndex, int material, std::array<int, 2>& chosen, Single& coefficient,
+                                  const std::array<int, 2>& coefficientFields)
+{
     if (tabIndex < 0 || tabIndex > 1 || material < 0 || material >= kMaterials)
         return;
     ChangeNotice notice(*this);
-    pipeMaterial[static_cast<size_t>(tabIndex)] = material;
-    record.pipeExpansion = materials()[static_cast<size_t>(material)].coefficient;
-    const int field = kPipeExpansionField[static_cast<size_t>(tabIndex)];
+    chosen[static_cast<size_t>(tabIndex)] = material;
+    coefficient = materials()[static_cast<size_t>(material)].coefficient;
+    const int field = coefficientFields[static_cast<size_t>(tabIndex)];
     showField(field);
     if (material == kMaterials - 1)
         focusRequest = "txtData(" + std::to_string(field) + ")";

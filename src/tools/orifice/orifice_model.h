@@ -86,6 +86,8 @@ public:
 private:
     void setDirty();
     void reset();
+    void chooseMaterial(int tabIndex, int material, std::array<int, 2>& chosen, Single& coefficient,
+                        const std::array<int, 2>& coefficientFields);
     bool saveFile();
     bool openFile();
     UserInterface& ui_;
