@@ -4,6 +4,7 @@
 #include "frame/settings_store.h"
 #include "frame/unit_options_model.h"
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -146,6 +147,34 @@ TEST_F(FrameModelTest, TheDataBaseTestOpensReadOnlyAndQueries)
     EXPECT_FALSE(frame.dataBaseFileValid());
     writeFile(dir.filePath("text.sqlite"), "this is not a data base at all, only text");
     EXPECT_FALSE(isValidDataBaseFile(path("text.sqlite")));
+}
+
+TEST_F(FrameModelTest, LocateDataBaseKeepsOnlyAFileThatPassesTheTest)
+{
+    const std::string before = frame.dataBaseLocation();
+    writeFile(dir.filePath("text.sqlite"), "this is not a data base at all, only text");
+    EXPECT_FALSE(frame.locateDataBase(path("text.sqlite")));
+    ASSERT_EQ(ui.messages.size(), 1u);
+    EXPECT_EQ(ui.messages[0].title, "Locate Data Base");
+    EXPECT_EQ(ui.messages[0].text, "Not a valid physical properties data base file.");
+    EXPECT_EQ(frame.dataBaseLocation(), before); // the old location stays
+
+    // The compound data base shipped beside the program passes, and is kept.
+    const std::string shipped = QDir(KESTROVA_DATA_DIR).filePath("compounds.sqlite").toStdString();
+    EXPECT_TRUE(frame.locateDataBase(shipped));
+    EXPECT_TRUE(frame.dataBaseFileValid());
+    EXPECT_EQ(store.get("Settings", "DataBaseLocation", ""), shipped);
+    EXPECT_EQ(ui.messages.size(), 1u);
+}
+
+TEST_F(FrameModelTest, PrintDataSheetGoesOnlyToAToolInFront)
+{
+    frame.mnuFilePrintDataSheet_Click(nullptr);
+    EXPECT_EQ(tool.dataSheets, 0);
+    EXPECT_EQ(ui.statusText, "Print Data Sheet");
+    frame.mnuFilePrintDataSheet_Click(&tool);
+    frame.mnuFilePrintDataSheet_Click(&tool);
+    EXPECT_EQ(tool.dataSheets, 2);
 }
 
 TEST(UnitOptions, StandardSetsAndSettingTheGlobals)
