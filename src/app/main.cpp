@@ -4,6 +4,7 @@
 #include "frame/auxiliary_dialogs.h"
 #include "frame/frmMain.h"
 #include "frame/settings_store.h"
+#include "platform/exception_barrier.h"
 #include "platform/single_instance.h"
 
 #include <QApplication>
@@ -28,7 +29,7 @@ void waitShowing(int milliseconds)
 
 int main(int argc, char** argv)
 {
-    QApplication app(argc, argv);
+    kestrova::GuardedApplication app(argc, argv);
     QApplication::setApplicationName("Kestrova");
     QApplication::setOrganizationName("Kestrova");
     QApplication::setApplicationVersion(KESTROVA_VERSION);

@@ -7,6 +7,9 @@
 
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
+#include <istream>
+
 namespace kestrova::calc {
 
 namespace {
@@ -19,6 +22,30 @@ std::string errorAnswer(const std::string& id, const std::string& message)
 std::string faultAnswer(const std::string& id, const std::string& where)
 {
     return JsonObject().raw("id", id).boolean("ok", false).text("fault", "numeric").text("at", where).str();
+}
+
+// The deepest nesting of brackets outside strings, so that a request nested
+// beyond reason is refused before it is parsed.
+int nestingDepth(std::string_view line)
+{
+    int depth = 0, deepest = 0;
+    bool inString = false;
+    for (size_t i = 0; i < line.size(); ++i) {
+        const char c = line[i];
+        if (inString) {
+            if (c == '\\')
+                ++i;
+            else if (c == '"')
+                inString = false;
+        } else if (c == '"') {
+            inString = true;
+        } else if (c == '[' || c == '{') {
+            deepest = std::max(deepest, ++depth);
+        } else if (c == ']' || c == '}') {
+            --depth;
+        }
+    }
+    return deepest;
 }
 
 std::string dispatch(const nlohmann::json& request, const std::string& id)
@@ -50,6 +77,11 @@ std::string dispatch(const nlohmann::json& request, const std::string& id)
 
 std::string answerRequest(std::string_view line)
 {
+    if (line.size() > kMaxRequestBytes)
+        return tooLongAnswer();
+    if (nestingDepth(line) > kMaxRequestDepth)
+        return errorAnswer("null", "the request nests arrays and objects deeper than " +
+                                       std::to_string(kMaxRequestDepth) + " levels");
     nlohmann::json request;
     try {
         request = nlohmann::json::parse(line);
@@ -68,6 +100,32 @@ std::string answerRequest(std::string_view line)
     } catch (const std::exception& error) {
         return errorAnswer(id, std::string("the request could not be answered: ") + error.what());
     }
+}
+
+std::string tooLongAnswer()
+{
+    return errorAnswer("null", "the line is longer than " + std::to_string(kMaxRequestBytes) + " bytes and was not read");
+}
+
+bool readRequestLine(std::istream& in, std::string& line, bool& tooLong)
+{
+    line.clear();
+    tooLong = false;
+    std::streambuf* source = in.rdbuf();
+    int c = source->sbumpc();
+    if (c == std::char_traits<char>::eof()) {
+        in.setstate(std::ios::eofbit);
+        return false;
+    }
+    for (; c != std::char_traits<char>::eof() && c != '\n'; c = source->sbumpc()) {
+        if (line.size() < kMaxRequestBytes)
+            line.push_back(static_cast<char>(c));
+        else
+            tooLong = true;
+    }
+    if (!line.empty() && line.back() == '\r')
+        line.pop_back();
+    return true;
 }
 
 } // namespace kestrova::calc

@@ -18,12 +18,11 @@ int answerStandardInput()
 {
     std::ios::sync_with_stdio(false);
     std::string line;
-    while (std::getline(std::cin, line)) {
-        if (!line.empty() && line.back() == '\r')
-            line.pop_back();
-        if (isBlank(line))
+    bool tooLong = false;
+    while (kestrova::calc::readRequestLine(std::cin, line, tooLong)) {
+        if (!tooLong && isBlank(line))
             continue;
-        std::cout << kestrova::calc::answerRequest(line) << '\n';
+        std::cout << (tooLong ? kestrova::calc::tooLongAnswer() : kestrova::calc::answerRequest(line)) << '\n';
         // Answer at once when nothing more is waiting, so that a caller that
         // sends one line and waits for its answer is served.
         if (std::cin.rdbuf()->in_avail() <= 0)

@@ -2,6 +2,7 @@
 
 #include "calc/tool_report.h"
 #include "frame/global_units.h"
+#include "numeric/field_text.h"
 #include "numeric/display_mask.h"
 #include "numeric/numeric_fault.h"
 #include "frame/scripted_user_interface.h"
@@ -177,7 +178,7 @@ void orificePlatesComputeOrifice(const RequestArgs& a, JsonObject& result)
     applyTexts(texts, "txtDisplay", OrificeModel::kDisplays, [&tool](int index, const std::string& text) {
         tool.txtDisplay[static_cast<size_t>(index)] = text;
         if (index == 5) // k, the only display that takes typing
-            readPlainText(text, tool.record.heatCapacityRatio);
+            tool.record.heatCapacityRatio = fieldSingleOr0(text);
     });
     tool.ComputeOrifice();
     reportOrifice(tool, result);

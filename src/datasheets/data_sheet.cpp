@@ -5,7 +5,9 @@
 #include "frame/user_interface.h"
 
 #include <QDir>
+#include <QStandardPaths>
 #include <QFile>
+#include <QSqlError>
 #include <QSqlQuery>
 #include <QSqlRecord>
 #include <QStringList>
@@ -29,22 +31,34 @@ DataSheetColumns companyBlock(const SettingsStore& store)
     return block;
 }
 
-void addRow(QSqlDatabase& db, const std::string& table, const DataSheetColumns& columns)
+// The table made afresh with the row's columns and the one row in it, in
+// one transaction; an empty text when it worked, else what failed.
+std::string stageRow(QSqlDatabase& db, const std::string& table, const DataSheetColumns& columns)
 {
-    QStringList names, marks;
+    QStringList names, marks, definitions;
     for (const auto& column : columns) {
         names << quoted(column.first);
         marks << "?";
+        definitions << quoted(column.first) + " TEXT";
     }
     QSqlQuery query(db);
-    QStringList definitions;
-    for (const QString& name : names)
-        definitions << name + " TEXT";
-    query.exec("CREATE TABLE IF NOT EXISTS " + quoted(table) + " (" + definitions.join(", ") + ")");
-    query.prepare("INSERT INTO " + quoted(table) + " (" + names.join(", ") + ") VALUES (" + marks.join(", ") + ")");
-    for (const auto& column : columns)
-        query.addBindValue(QString::fromStdString(column.second));
-    query.exec();
+    const auto failed = [&query] { return query.lastError().text().toStdString(); };
+    if (!db.transaction())
+        return db.lastError().text().toStdString();
+    bool ok = query.exec("DROP TABLE IF EXISTS " + quoted(table)) &&
+              query.exec("CREATE TABLE " + quoted(table) + " (" + definitions.join(", ") + ")") &&
+              query.prepare("INSERT INTO " + quoted(table) + " (" + names.join(", ") + ") VALUES (" + marks.join(", ") + ")");
+    if (ok) {
+        for (const auto& column : columns)
+            query.addBindValue(QString::fromStdString(column.second));
+        ok = query.exec();
+    }
+    const std::string error = ok ? std::string() : failed();
+    if (!ok || !db.commit()) {
+        db.rollback();
+        return error.empty() ? db.lastError().text().toStdString() : error;
+    }
+    return {};
 }
 
 void deleteLastRow(QSqlDatabase& db, const std::string& table)
@@ -60,21 +74,37 @@ const char* const kReportFailure = "An error has occurred while Kestrova was bui
 
 } // namespace
 
-DataSheetPrinter::DataSheetPrinter(UserInterface& ui, const SettingsStore& store, QString programFolder)
-    : ui_(ui), store_(store), folder_(std::move(programFolder))
+DataSheetPrinter::DataSheetPrinter(UserInterface& ui, const SettingsStore& store, QString programFolder,
+                                   QString stagingFolder)
+    : ui_(ui), store_(store), folder_(std::move(programFolder)), stagingFolder_(std::move(stagingFolder))
 {
 }
 
 QString DataSheetPrinter::stagingPath() const
 {
-    return QDir(folder_).filePath(kStagingFile);
+    return QDir(stagingFolder_).filePath(kStagingFile);
+}
+
+QString userDataFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
 }
 
 void DataSheetPrinter::print(const DataSheetReport& report, DataSheetColumns columns) const
 {
     const DataSheetColumns company = companyBlock(store_);
     columns.insert(columns.end(), company.begin(), company.end());
-    withSqlite(stagingPath(), SqliteAccess::ReadWrite, [&](QSqlDatabase& db) { addRow(db, report.table, columns); });
+    std::string error;
+    if (!QDir().mkpath(stagingFolder_))
+        error = "The folder " + stagingFolder_.toStdString() + " cannot be made.";
+    else if (!withSqlite(stagingPath(), SqliteAccess::ReadWrite,
+                         [&](QSqlDatabase& db) { error = stageRow(db, report.table, columns); }))
+        error = "The data base " + stagingPath().toStdString() + " cannot be opened.";
+    if (!error.empty()) {
+        ui_.ask("Report Generation Error", "The data sheet could not be prepared:\r" + error + "\rNothing was printed.",
+                MessageIcon::Stop, MessageButtons::Ok, MessageAnswer::Ok);
+        return;
+    }
     const int result = ui_.runReport(report.title, QDir(folder_).filePath(QString::fromStdString(report.file)).toStdString(),
                                      stagingPath().toStdString(), report.table);
     if (result != 0)

@@ -2,8 +2,8 @@
 // Data sheets, the printed record of one calculation. A document tool hands
 // over one row of the values as they stand on screen, already formatted and
 // in the user's units; the row goes into a table of the staging data base
-// "datasheets.sqlite" beside the program, the report runs over it, and the
-// row is deleted again, whatever the report did.
+// "datasheets.sqlite" in the user's data folder, the report layout beside the
+// program runs over it, and the row is deleted again, whatever the report did.
 
 #include <QString>
 
@@ -30,11 +30,14 @@ class DataSheetPrinter {
 public:
     static constexpr const char* kStagingFile = "datasheets.sqlite";
 
-    DataSheetPrinter(UserInterface& ui, const SettingsStore& store, QString programFolder);
+    // The report layouts lie in `programFolder`; the staging data base is
+    // made in `stagingFolder`, a folder the program may write to.
+    DataSheetPrinter(UserInterface& ui, const SettingsStore& store, QString programFolder, QString stagingFolder);
 
-    // Stages the row with the company block after it, runs the report, says
-    // so when the report failed, and deletes the row. A failing data base
-    // step does not end the procedure: the report then finds no row.
+    // Stages the row with the company block after it in a table made afresh,
+    // runs the report, says so when the report failed, and deletes the row.
+    // A row that cannot be staged is reported and nothing is printed: an
+    // earlier case is never printed in its place.
     void print(const DataSheetReport& report, DataSheetColumns columns) const;
 
     QString stagingPath() const;
@@ -43,7 +46,12 @@ private:
     UserInterface& ui_;
     const SettingsStore& store_;
     QString folder_;
+    QString stagingFolder_;
 };
+
+// The user's data folder, where the program writes what it keeps between
+// two steps (the staging data base); made when it is first needed.
+QString userDataFolder();
 
 // The last row of a staging table, or nothing when there is none.
 std::optional<DataSheetColumns> stagedRow(const QString& stagingPath, const std::string& table);

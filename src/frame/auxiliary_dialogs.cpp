@@ -3,6 +3,7 @@
 #include "frame/company_info_model.h"
 #include "frame/settings_store.h"
 #include "frame/user_interface.h"
+#include "platform/exception_barrier.h"
 
 #include <QCheckBox>
 #include <QCursor>
@@ -98,7 +99,7 @@ frmAbout::frmAbout(UserInterface& ui, QWidget* parent) : QDialog(parent), ui_(ui
     connect(ok, &QPushButton::clicked, this, &QDialog::accept);
     auto* sysInfo = new QPushButton("&System Info...", this);
     sysInfo->setObjectName("cmdSysInfo");
-    connect(sysInfo, &QPushButton::clicked, this, &frmAbout::StartSysInfo);
+    connect(sysInfo, &QPushButton::clicked, this, guarded(windowTitle().toStdString(), ui_, [this] { StartSysInfo(); }));
     auto* buttons = new QVBoxLayout;
     buttons->addWidget(ok);
     buttons->addWidget(sysInfo);
@@ -139,7 +140,7 @@ frmCompanyInfo::frmCompanyInfo(CompanyInfoModel& model, UserInterface& ui, QWidg
         auto* edit = new QLineEdit(QString::fromStdString(model_.text[i]), this);
         edit->setObjectName(f.control);
         edit->setMinimumWidth(280);
-        connect(edit, &QLineEdit::textChanged, this, [this, i](const QString& text) { model_.text[i] = text.toStdString(); });
+        connect(edit, &QLineEdit::textChanged, this, guarded(windowTitle().toStdString(), ui_, [this, i](const QString& text) { model_.text[i] = text.toStdString(); }));
         form->addRow(f.label, edit);
     }
     auto* close = new QPushButton("&Close", this);
@@ -220,15 +221,15 @@ frmReadDisclaimer::frmReadDisclaimer(UserInterface& ui, SettingsStore& store, bo
     layout->addLayout(buttons);
     resize(440, 200);
 
-    connect(chkDontShow_, &QCheckBox::toggled, this, [this] {
+    connect(chkDontShow_, &QCheckBox::toggled, this, guarded(windowTitle().toStdString(), ui_, [this] {
         if (loaded_)
             showFlag_ = !showFlag_;
-    });
-    connect(read, &QPushButton::clicked, this, [this] {
+    }));
+    connect(read, &QPushButton::clicked, this, guarded(windowTitle().toStdString(), ui_, [this] {
         frmDisclaimer disclaimer(ui_, this);
         disclaimer.exec();
-    });
-    connect(agree, &QPushButton::clicked, this, &frmReadDisclaimer::cmdAgree_Click);
+    }));
+    connect(agree, &QPushButton::clicked, this, guarded(windowTitle().toStdString(), ui_, [this] { cmdAgree_Click(); }));
     connect(disagree, &QPushButton::clicked, this, &QDialog::reject);
 
     ui_.setStatusText("You must agree in order to use Kestrova");

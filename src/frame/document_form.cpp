@@ -1,5 +1,6 @@
 #include "frame/document_form.h"
 
+#include "platform/exception_barrier.h"
 #include "units/basLoadUnits.h"
 
 #include <QComboBox>
@@ -53,7 +54,7 @@ QComboBox* DocumentForm::unitList(const QString& name, const char* tag, const st
     for (const std::string& unit : kestrova::unitList(tag))
         units->addItem(QString::fromStdString(unit));
     units->setFocusPolicy(Qt::ClickFocus);
-    connect(units, &QComboBox::activated, this, choose);
+    connect(units, &QComboBox::activated, this, guarded("the choice of a unit", ui_, choose));
     return units;
 }
 
@@ -65,6 +66,13 @@ void DocumentForm::showText(QLineEdit* edit, const std::string& text)
 }
 
 bool DocumentForm::eventFilter(QObject* watched, QEvent* event)
+{
+    bool swallowed = false;
+    runGuarded("the last entry in " + windowTitle().toStdString(), [&] { swallowed = filterEvent(watched, event); }, &ui_);
+    return swallowed || QWidget::eventFilter(watched, event);
+}
+
+bool DocumentForm::filterEvent(QObject* watched, QEvent* event)
 {
     auto* field = qobject_cast<QLineEdit*>(watched);
     switch (event->type()) {
@@ -92,7 +100,7 @@ bool DocumentForm::eventFilter(QObject* watched, QEvent* event)
         break;
     }
     conventions_.apply(watched, event);
-    return QWidget::eventFilter(watched, event);
+    return false;
 }
 
 } // namespace kestrova

@@ -31,6 +31,7 @@ public:
     virtual void render() = 0; // shows what the model holds
 
 protected:
+    // Runs the conventions under the exception barrier.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
     // The tool's side of the conventions.
@@ -50,6 +51,7 @@ protected:
     bool rendering_ = false; // set while render() runs, so that nothing is committed
 
 private:
+    bool filterEvent(QObject* watched, QEvent* event); // true swallows the event
     std::function<void()> keyTyped_;
     QSize least_;
 };

@@ -5,14 +5,13 @@
 #include "frame/global_units.h"
 #include "frame/project_file.h"
 #include "frame/settings_store.h"
-#include "frame/sqlite_session.h"
 #include "frame/user_interface.h"
 #include "numeric/field_text.h"
+#include "tools/properties/compound_data_base.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
-#include <QSqlQuery>
 
 namespace kestrova {
 
@@ -27,15 +26,7 @@ std::string fileTitle(const std::string& path)
 
 bool isValidDataBaseFile(const std::string& path)
 {
-    const QFileInfo info(QString::fromStdString(path));
-    if (!info.isFile() || !info.isReadable())
-        return false;
-    bool valid = false;
-    withSqlite(info.absoluteFilePath(), SqliteAccess::ReadOnly, [&valid](QSqlDatabase& db) {
-        QSqlQuery query(db);
-        valid = query.exec("SELECT count(*) FROM sqlite_master") && query.next();
-    });
-    return valid;
+    return isCompoundDataBase(QString::fromStdString(path));
 }
 
 std::string defaultDataBaseLocation()
@@ -72,13 +63,20 @@ void FrameModel::MDIForm_Unload(const FramePlacement& placement, bool minimised)
 
 FramePlacement FrameModel::placement() const
 {
+    // Each key is read as a single. A text that is none, or a place no screen
+    // has (beyond a million twips, or a size below zero), gives its default:
+    // a store edited by hand never stops the start.
+    constexpr double kFarthest = 1e6;
     const FramePlacement defaults;
-    const auto read = [this](const char* key, double fallback) {
+    const auto read = [this](const char* key, double fallback, double least) {
         const std::string text = store_.get("Settings", key, "");
-        return text.empty() ? fallback : static_cast<double>(Single(parseFieldNumber(text)));
+        if (!isFieldNumber(text))
+            return fallback;
+        const double value = fieldSingleOr0(text);
+        return value >= least && value <= kFarthest ? value : fallback;
     };
-    return {read("MainLeft", defaults.left), read("MainTop", defaults.top), read("MainWidth", defaults.width),
-            read("MainHeight", defaults.height)};
+    return {read("MainLeft", defaults.left, -kFarthest), read("MainTop", defaults.top, -kFarthest),
+            read("MainWidth", defaults.width, 0), read("MainHeight", defaults.height, 0)};
 }
 
 bool FrameModel::disclaimerShow() const
@@ -122,8 +120,12 @@ void FrameModel::openFile(const std::string& title, const std::string& path, con
     DocumentTool* tool = open(kind);
     if (!tool)
         return;
+    // A refused file does not become the tool's file: a later Save must not
+    // write over it without a question.
+    const std::string previous = tool->strFileName();
     tool->setStrFileName(path);
-    tool->OpenSaveData("Open");
+    if (!tool->OpenSaveData("Open"))
+        tool->setStrFileName(previous);
 }
 
 void FrameModel::mnuFileMRU_Click(int place, const ToolOpener& open)
@@ -147,12 +149,15 @@ bool FrameModel::mnuFileSaveAs_Click(DocumentTool* active, const std::function<s
 {
     if (!active)
         return false;
-    const std::string path = chooseFile(active->strFileName());
+    const std::string previous = active->strFileName();
+    const std::string path = chooseFile(previous);
     if (path.empty())
         return false;
     active->setStrFileName(path);
-    if (!active->OpenSaveData("Save As"))
+    if (!active->OpenSaveData("Save As")) {
+        active->setStrFileName(previous); // the case stays with the file it came from
         return false;
+    }
     recentFiles.add(fileTitle(path), path, store_);
     return true;
 }
@@ -174,7 +179,7 @@ void FrameModel::mnuFilePrintDataSheet_Click(DocumentTool* active)
 {
     ui_.setStatusText("Print Data Sheet");
     if (active)
-        active->PrintDataSheet(DataSheetPrinter(ui_, store_, QCoreApplication::applicationDirPath()));
+        active->PrintDataSheet(DataSheetPrinter(ui_, store_, QCoreApplication::applicationDirPath(), userDataFolder()));
 }
 
 } // namespace kestrova

@@ -61,7 +61,7 @@ private:
     bool firstActivationDone_ = false;
 };
 
-// Opens a file with the data engine read-only and runs one query.
+// The file test of the compound data base (Locate Data Base, each activation).
 bool isValidDataBaseFile(const std::string& path);
 // Where the compound data base lies when no location has been set: beside the program.
 std::string defaultDataBaseLocation();

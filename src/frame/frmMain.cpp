@@ -5,6 +5,7 @@
 #include "frame/company_info_model.h"
 #include "frame/frmUnitOptions.h"
 #include "frame/settings_store.h"
+#include "platform/exception_barrier.h"
 #include "tools/orifice/frmOrificePlates.h"
 #include "tools/orifice/orifice_model.h"
 #include "tools/pressure_drop/frmPressureDrop.h"
@@ -61,7 +62,8 @@ frmMain::frmMain(SettingsStore& store, QWidget* parent)
     mdi_->viewport()->setMouseTracking(true);
     mdi_->viewport()->installEventFilter(this);
     setCentralWidget(mdi_);
-    connect(mdi_, &QMdiArea::subWindowActivated, this, &frmMain::onSubWindowActivated);
+    connect(mdi_, &QMdiArea::subWindowActivated, this,
+            guarded("the activation of a window", ui_, [this](QMdiSubWindow* window) { onSubWindowActivated(window); }));
 
     buildActions();
     buildMenus();
@@ -86,7 +88,8 @@ QAction* frmMain::addAction(const QString& name, const QString& caption, void (f
     auto* act = new QAction(caption, this);
     act->setObjectName(name);
     if (slot)
-        connect(act, &QAction::triggered, this, slot);
+        connect(act, &QAction::triggered, this,
+                guarded("the menu entry " + QString(caption).remove('&').toStdString(), ui_, [this, slot] { (this->*slot)(); }));
     actions_[name] = act;
     return act;
 }
@@ -115,12 +118,12 @@ void frmMain::buildActions()
     for (int i = 1; i <= RecentFiles::kMenuPlaces; ++i) {
         QAction* recent = addAction(QString("mnuFileMRU(%1)").arg(i), QString(), nullptr);
         recent->setVisible(false);
-        connect(recent, &QAction::triggered, this, [this, i] {
+        connect(recent, &QAction::triggered, this, guarded("the opening of a recent file", ui_, [this, i] {
             model_.mnuFileMRU_Click(i, [this](int kind) -> DocumentTool* {
                 return openerOf(kind);
             });
             showRecentFiles();
-        });
+        }));
     }
     addAction("mnuFileExit", "E&xit", &frmMain::mnuFileExit_Click)->setShortcut(QKeySequence::Quit);
     addAction("mnuEditCut", "Cu&t", &frmMain::mnuEditCut_Click)->setShortcut(QKeySequence::Cut);
@@ -150,7 +153,7 @@ void frmMain::buildActions()
     addAction("mnuWindowArrangeIcons", "&Arrange Icons", nullptr);
     connect(action("mnuWindowCascade"), &QAction::triggered, mdi_, &QMdiArea::cascadeSubWindows);
     connect(action("mnuWindowTileHorizontal"), &QAction::triggered, mdi_, &QMdiArea::tileSubWindows);
-    connect(action("mnuWindowTileVertical"), &QAction::triggered, this, [this] {
+    connect(action("mnuWindowTileVertical"), &QAction::triggered, this, guarded("Tile Vertical", ui_, [this] {
         // Side by side: each window the full height, one column each.
         const auto windows = mdi_->subWindowList();
         if (windows.isEmpty())
@@ -162,15 +165,15 @@ void frmMain::buildActions()
             window->setGeometry(x, 0, width, mdi_->viewport()->height());
             x += width;
         }
-    });
-    connect(action("mnuWindowArrangeIcons"), &QAction::triggered, mdi_, [this] {
+    }));
+    connect(action("mnuWindowArrangeIcons"), &QAction::triggered, mdi_, guarded("Arrange Icons", ui_, [this] {
         int x = 0;
         for (QMdiSubWindow* window : mdi_->subWindowList())
             if (window->isMinimized()) {
                 window->move(x, mdi_->viewport()->height() - window->height());
                 x += window->width();
             }
-    });
+    }));
     addAction("mnuHelpContents", "&Contents", &frmMain::mnuHelpContents_Click)->setShortcut(QKeySequence::HelpContents);
     addAction("mnuHelpSearchForHelpOn", "&Search For Help On...", &frmMain::mnuHelpContents_Click);
     addAction("mnuHelpAbout", "&About ", &frmMain::mnuHelpAbout_Click);
@@ -579,12 +582,14 @@ void frmMain::mnuFilePrintScreen_Click()
     if (dialog.exec() != QDialog::Accepted)
         return;
     const int copies = std::max(printer_.copyCount(), 1);
-    ui_.setBusyPointer(true);
-    QEventLoop repaint; // let the dialog's place on screen be repainted
-    QTimer::singleShot(200, &repaint, &QEventLoop::quit);
-    repaint.exec();
-    const bool printed = printCopies(printer_, picture, copies, active->widget()->logicalDpiX());
-    ui_.setBusyPointer(false);
+    bool printed = false;
+    {
+        const BusyPointer busy(ui_);
+        QEventLoop repaint; // let the dialog's place on screen be repainted
+        QTimer::singleShot(200, &repaint, &QEventLoop::quit);
+        repaint.exec();
+        printed = printCopies(printer_, picture, copies, active->widget()->logicalDpiX());
+    }
     if (!printed) {
         ui_.ask("Kestrova", "The printer could not be started.", MessageIcon::Stop, MessageButtons::Ok,
                 MessageAnswer::Ok);
@@ -682,6 +687,13 @@ void frmMain::mnuHelpAbout_Click()
 
 bool frmMain::eventFilter(QObject* watched, QEvent* event)
 {
+    bool swallowed = false;
+    runGuarded("the last action", [&] { swallowed = filterEvent(watched, event); }, &ui_);
+    return swallowed || QMainWindow::eventFilter(watched, event);
+}
+
+bool frmMain::filterEvent(QObject* watched, QEvent* event)
+{
     if (watched == mdi_->viewport() && event->type() == QEvent::MouseMove) {
         setStatusText("Select a menu item");
     } else if (watched == toolbar_ && event->type() == QEvent::HoverMove) {
@@ -696,13 +708,13 @@ bool frmMain::eventFilter(QObject* watched, QEvent* event)
             return true;
         }
     }
-    return QMainWindow::eventFilter(watched, event);
+    return false;
 }
 
 void frmMain::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::ActivationChange && isActiveWindow())
-        model_.MDIForm_Activate();
+        runGuarded("the activation of the frame", [this] { model_.MDIForm_Activate(); }, &ui_);
     QMainWindow::changeEvent(event);
 }
 
@@ -716,7 +728,9 @@ void frmMain::closeEvent(QCloseEvent* event)
         }
     }
     const QRect g = normalGeometry();
-    model_.MDIForm_Unload({g.x() * 15.0, g.y() * 15.0, g.width() * 15.0, g.height() * 15.0}, isMinimized());
+    runGuarded("the saving of the frame's placement", [&] {
+        model_.MDIForm_Unload({g.x() * 15.0, g.y() * 15.0, g.width() * 15.0, g.height() * 15.0}, isMinimized());
+    }, &ui_);
     event->accept();
 }
 

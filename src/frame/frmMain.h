@@ -61,6 +61,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    bool filterEvent(QObject* watched, QEvent* event); // true swallows the event
     void buildActions();
     void activateDocument();
     DocumentTool* openerOf(int kind);

@@ -1,6 +1,7 @@
 #include "frame/frmUnitOptions.h"
 
 #include "frame/user_interface.h"
+#include "platform/exception_barrier.h"
 
 #include <QComboBox>
 #include <QFormLayout>
@@ -28,9 +29,9 @@ frmUnitOptions::frmUnitOptions(UserInterface& ui, SettingsStore& store, QWidget*
         for (const std::string& item : UnitOptionsModel::comboItems(combo.name))
             box->addItem(QString::fromStdString(item));
         const size_t at = combos_.size();
-        connect(box, &QComboBox::activated, this, [this, at](int index) {
+        connect(box, &QComboBox::activated, this, guarded("the last action in Units of Measure", ui_, [this, at](int index) {
             model_.listIndex[at] = static_cast<UnitIndex>(index);
-        });
+        }));
         box->installEventFilter(this);
         combos_.push_back(box);
         form->addRow(combo.label, box);
@@ -44,10 +45,10 @@ frmUnitOptions::frmUnitOptions(UserInterface& ui, SettingsStore& store, QWidget*
         auto* option = new QRadioButton(setNames[i], sets);
         option->setObjectName(QString("Option1(%1)").arg(i));
         option->setToolTip("Select a Global Unit Set to Display Data");
-        connect(option, &QRadioButton::clicked, this, [this, i] {
+        connect(option, &QRadioButton::clicked, this, guarded("the last action in Units of Measure", ui_, [this, i] {
             model_.Option1_Click(i);
             render();
-        });
+        }));
         option->installEventFilter(this);
         setsLayout->addWidget(option);
     }
@@ -56,11 +57,11 @@ frmUnitOptions::frmUnitOptions(UserInterface& ui, SettingsStore& store, QWidget*
     auto* setDefault = new QPushButton("&Set as Default", this);
     setDefault->setObjectName("cmdSetDefault");
     setDefault->setToolTip("Set Above Units Globally");
-    connect(setDefault, &QPushButton::clicked, this, [this] { model_.cmdSetDefault_Click(); });
+    connect(setDefault, &QPushButton::clicked, this, guarded("the last action in Units of Measure", ui_, [this] { model_.cmdSetDefault_Click(); }));
     auto* saveDefault = new QPushButton("Save as &Default", this);
     saveDefault->setObjectName("cmdSaveDefault");
     saveDefault->setToolTip("Save Above Global Units");
-    connect(saveDefault, &QPushButton::clicked, this, [this] { model_.cmdSaveDefault_Click(); });
+    connect(saveDefault, &QPushButton::clicked, this, guarded("the last action in Units of Measure", ui_, [this] { model_.cmdSaveDefault_Click(); }));
     auto* closeButton = new QPushButton("&Close", this);
     closeButton->setObjectName("cmdClose");
     closeButton->setToolTip("Close");
@@ -84,8 +85,10 @@ frmUnitOptions::frmUnitOptions(UserInterface& ui, SettingsStore& store, QWidget*
 
 void frmUnitOptions::showEvent(QShowEvent* event)
 {
-    model_.Form_Activate();
-    render();
+    runGuarded("opening Units of Measure", [this] {
+        model_.Form_Activate();
+        render();
+    }, &ui_);
     QDialog::showEvent(event);
 }
 

@@ -1,6 +1,7 @@
 #include "frame/global_units.h"
 
 #include "frame/settings_store.h"
+#include "units/basLoadUnits.h"
 
 #include <string>
 
@@ -11,6 +12,9 @@ constexpr const char* kKeys[kQuantityCount] = {"TUnits",    "PUnits",    "DUnits
                                                "RoughUnits", "FlowUnits", "VelUnits",  "LengthUnits", "DiaUnits",
                                                "PDUnits",   "VPUnits",   "CPUnits",    "HeadUnits", "PowerUnits"};
 constexpr int kKeysRead = 12;
+constexpr const char* kTags[kQuantityCount] = {"Temperature", "Pressure", "Density",  "Viscosity", "Surface Tension",
+                                               "Roughness",   "Flow Rate", "Velocity", "Length",   "Diameter",
+                                               "Pressure Drop", "Vapor Pressure", "Heat Capacity", "Head", "Power"};
 } // namespace
 
 const char* unitKey(Quantity q)
@@ -18,11 +22,19 @@ const char* unitKey(Quantity q)
     return kKeys[static_cast<int>(q)];
 }
 
+const char* unitTagOf(Quantity q)
+{
+    return kTags[static_cast<int>(q)];
+}
+
 void GlobalUnits::load(const SettingsStore& store)
 {
     const GlobalUnits defaults;
-    for (int i = 0; i < kKeysRead; ++i)
-        index[i] = static_cast<UnitIndex>(store.getInteger("Units", kKeys[i], defaults.index[i]));
+    // An index beyond its list (the store edited by hand) falls back to the default.
+    for (int i = 0; i < kKeysRead; ++i) {
+        const auto units = static_cast<int>(unitList(kTags[i]).size());
+        index[i] = static_cast<UnitIndex>(store.getIndex("Units", kKeys[i], defaults.index[i], units));
+    }
 }
 
 void GlobalUnits::save(SettingsStore& store) const

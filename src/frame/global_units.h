@@ -30,6 +30,8 @@ struct GlobalUnits {
 
 // The settings key of a quantity ("TUnits", "PUnits", ...).
 const char* unitKey(Quantity q);
+// The tag of the quantity's unit list (basLoadUnits).
+const char* unitTagOf(Quantity q);
 
 GlobalUnits& globalUnits();
 

@@ -208,17 +208,17 @@ void GuiUserInterface::GetPhysicalProperties(FluidKind fluid, Single temperature
         ask("Physical Properties", kNoDataBase, MessageIcon::Warning, MessageButtons::Ok, MessageAnswer::Ok);
         return;
     }
+    std::vector<Compound> compounds;
     try {
-        setBusyPointer(true);
-        PhysicalPropertiesModel model(*this, readCompounds(QString::fromStdString(frame_.model().dataBaseLocation())));
-        setBusyPointer(false);
-        frmPhysicalProperties dialog(model, *this, &frame_);
-        model.GetPhysicalProperties(fluid, temperature, [&] { dialog.runModal(); });
+        const BusyPointer busy(*this);
+        compounds = readCompounds(QString::fromStdString(frame_.model().dataBaseLocation()));
     } catch (const std::exception& error) {
-        setBusyPointer(false);
         ask("Physical Properties", error.what(), MessageIcon::Stop, MessageButtons::Ok, MessageAnswer::Ok);
-        propertiesCancelled() = true;
+        return;
     }
+    PhysicalPropertiesModel model(*this, std::move(compounds));
+    frmPhysicalProperties dialog(model, *this, &frame_);
+    model.GetPhysicalProperties(fluid, temperature, [&] { dialog.runModal(); });
 }
 
 void GuiUserInterface::showTool(const std::string& menuName)

@@ -2,11 +2,16 @@
 
 #include "frame/user_interface.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
 #include <QSaveFile>
 #include <QtEndian>
 
 #include <array>
+#include <cerrno>
+#include <cstdio>
 #include <cstring>
 
 namespace kestrova {
@@ -130,18 +135,74 @@ bool readWholeFile(const QString& path, QByteArray& bytes)
     return file.error() == QFileDevice::NoError;
 }
 
-std::string writeFileSafely(const QString& path, const QByteArray& bytes)
+namespace {
+
+// A save first writes the whole new file under a name of its own beside the
+// target, "<file>.kestrova-save", and only then puts it in the target's place.
+constexpr const char* kStagingSuffix = ".kestrova-save";
+
+QString stagingPathOf(const QString& path)
 {
-    QSaveFile file(path);
+    return path + kStagingSuffix;
+}
+
+// A save cut short by the end of the program may leave its staging file, or
+// the temporary file that stands in for it while it is written
+// ("<file>.kestrova-save.XXXXXX"), beside the target. Both are the program's
+// own, and the save now under way replaces what they held.
+void removeStaleSaves(const QString& path)
+{
+    const QFileInfo target(path);
+    const QString staging = target.fileName() + kStagingSuffix;
+    const QRegularExpression ours("^" + QRegularExpression::escape(staging) + "(\\.[A-Za-z0-9]{6})?$");
+    QDir folder = target.absoluteDir();
+    for (const QString& name : folder.entryList({staging + "*"}, QDir::Files | QDir::Hidden | QDir::System))
+        if (ours.match(name).hasMatch())
+            folder.remove(name);
+}
+
+// Writes the complete file under the staging name. QSaveFile::write() only
+// fills a buffer, and a commit after a failed write of that buffer (a full
+// disk) can still leave a short file: the buffer is flushed and checked before
+// the commit, and the size of what was committed is checked after it.
+std::string writeStagingFile(const QString& staging, const QByteArray& bytes)
+{
+    QSaveFile file(staging);
     if (!file.open(QIODevice::WriteOnly))
         return file.errorString().toStdString();
-    if (file.write(bytes) != bytes.size()) {
+    if (file.write(bytes) != bytes.size() || !file.flush()) {
         const std::string error = file.errorString().toStdString();
         file.cancelWriting();
         return error;
     }
     if (!file.commit())
         return file.errorString().toStdString();
+    if (QFileInfo(staging).size() != bytes.size()) {
+        QFile::remove(staging);
+        return "The file was not written completely.";
+    }
+    return {};
+}
+
+} // namespace
+
+std::string writeFileSafely(const QString& path, const QByteArray& bytes)
+{
+    const QFileInfo target(path);
+    if (target.exists() && !target.isWritable())
+        return "The file is read-only.";
+    removeStaleSaves(path);
+    const QString staging = stagingPathOf(path);
+    if (std::string error = writeStagingFile(staging, bytes); !error.empty())
+        return error;
+    if (target.exists())
+        QFile::setPermissions(staging, QFile::permissions(path));
+    // One rename puts the complete new file in the old one's place.
+    if (std::rename(QFile::encodeName(staging).constData(), QFile::encodeName(path).constData()) != 0) {
+        const std::string error = std::strerror(errno);
+        QFile::remove(staging);
+        return error;
+    }
     return {};
 }
 

@@ -60,6 +60,12 @@ int SettingsStore::getInteger(const std::string& section, const std::string& key
     return ok ? value : defaultValue;
 }
 
+int SettingsStore::getIndex(const std::string& section, const std::string& key, int defaultValue, int count) const
+{
+    const int value = getInteger(section, key, defaultValue);
+    return value >= 0 && value < count ? value : defaultValue;
+}
+
 void SettingsStore::save(const std::string& section, const std::string& key, const std::string& text)
 {
     settings_->setValue(keyPath(section, key), QString::fromStdString(text));

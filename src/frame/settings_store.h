@@ -26,7 +26,10 @@ public:
     static void useFile(const QString& iniPath);
 
     std::string get(const std::string& section, const std::string& key, const std::string& defaultText) const;
+    // An integer; a text that is none (or beyond the integer range) gives the default.
     int getInteger(const std::string& section, const std::string& key, int defaultValue) const;
+    // An index into a list of `count` entries; anything else gives the default.
+    int getIndex(const std::string& section, const std::string& key, int defaultValue, int count) const;
     void save(const std::string& section, const std::string& key, const std::string& text);
     void remove(const std::string& section, const std::string& key);
     void sync();

@@ -1,8 +1,7 @@
 #include "frame/tool_dialog.h"
 
-#include "frame/field_conventions.h"
-
 #include "frame/user_interface.h"
+#include "platform/exception_barrier.h"
 #include "units/basLoadUnits.h"
 
 #include <QComboBox>
@@ -29,15 +28,17 @@ void ToolDialog::runModal()
 
 void ToolDialog::showEvent(QShowEvent* event)
 {
-    if (onShow)
-        onShow();
-    render();
+    runGuarded("opening " + windowTitle().toStdString(), [this] {
+        if (onShow)
+            onShow();
+        render();
+    }, &ui_);
     QDialog::showEvent(event);
 }
 
 void ToolDialog::update()
 {
-    render();
+    runGuarded("showing " + windowTitle().toStdString(), [this] { render(); }, &ui_);
     if (model_.closeRequested) {
         model_.closeRequested = false;
         accept();
@@ -47,7 +48,7 @@ void ToolDialog::update()
 void ToolDialog::reject()
 {
     if (onCancel)
-        onCancel(); // the model asks to close; update() accepts
+        runGuarded("closing " + windowTitle().toStdString(), onCancel, &ui_); // the model asks to close; update() accepts
     if (isVisible())
         QDialog::reject();
 }
@@ -92,7 +93,7 @@ QComboBox* ToolDialog::unitList(const QString& name, const char* tag, const std:
     for (const std::string& unit : kestrova::unitList(tag))
         list->addItem(QString::fromStdString(unit));
     list->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-    connect(list, &QComboBox::activated, this, choose);
+    connect(list, &QComboBox::activated, this, guarded("the choice of a unit", ui_, choose));
     return list;
 }
 
@@ -101,7 +102,7 @@ QPushButton* ToolDialog::button(const QString& name, const QString& caption, con
     auto* b = new QPushButton(caption, this);
     b->setObjectName(name);
     b->setAutoDefault(false);
-    connect(b, &QPushButton::clicked, this, click);
+    connect(b, &QPushButton::clicked, this, guarded("the click on " + QString(caption).remove('&').toStdString(), ui_, click));
     return b;
 }
 
@@ -111,6 +112,13 @@ void ToolDialog::status(QWidget* widget, const QString& text)
 }
 
 bool ToolDialog::eventFilter(QObject* watched, QEvent* event)
+{
+    bool swallowed = false;
+    runGuarded("the last entry in " + windowTitle().toStdString(), [&] { swallowed = filterEvent(watched, event); }, &ui_);
+    return swallowed || QDialog::eventFilter(watched, event);
+}
+
+bool ToolDialog::filterEvent(QObject* watched, QEvent* event)
 {
     auto* edit = qobject_cast<QLineEdit*>(watched);
     switch (event->type()) {
@@ -130,7 +138,7 @@ bool ToolDialog::eventFilter(QObject* watched, QEvent* event)
         break;
     }
     conventions_.apply(watched, event);
-    return QDialog::eventFilter(watched, event);
+    return false;
 }
 
 } // namespace kestrova

@@ -50,6 +50,7 @@ protected:
     std::function<void()> onShow; // the model's activation, run before the dialog first shows
 
 private:
+    bool filterEvent(QObject* watched, QEvent* event); // true swallows the event
     void update();
     FormModel& model_;
     std::map<QObject*, std::function<void(const QString&)>> commits_;

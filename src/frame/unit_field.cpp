@@ -18,29 +18,13 @@ std::string unitFieldText(const FieldKind& kind, Single value, UnitIndex unit)
     }
 }
 
-bool readUnitFieldText(const FieldKind& kind, const std::string& text, UnitIndex unit, Single& value)
+Single unitFieldValue(const FieldKind& kind, std::string_view text, UnitIndex unit) noexcept
 {
     try {
-        value = kind.fromUnit(parseFieldNumber(text), unit);
-        return true;
+        return Single(kind.fromUnit(parseFieldNumber(text), unit));
     } catch (const NumericFault&) {
-        return false;
+        return Single();
     }
-}
-
-bool readPlainText(const std::string& text, Single& value)
-{
-    try {
-        value = parseFieldNumber(text);
-        return true;
-    } catch (const NumericFault&) {
-        return false;
-    }
-}
-
-bool isNumericText(const std::string& text)
-{
-    return isFieldNumber(text);
 }
 
 } // namespace kestrova

@@ -8,6 +8,7 @@
 
 #include <array>
 #include <string>
+#include <string_view>
 
 namespace kestrova {
 
@@ -28,14 +29,9 @@ constexpr std::array<const char*, 8> sameMask(const char* mask)
 // or the value cannot be shown.
 std::string unitFieldText(const FieldKind& kind, Single value, UnitIndex unit);
 
-// Reads a typed text in a unit into a base value; false (value kept) when no
-// single can hold the number.
-bool readUnitFieldText(const FieldKind& kind, const std::string& text, UnitIndex unit, Single& value);
-
-// Reads a plain number text; false (value kept) when no single can hold it.
-bool readPlainText(const std::string& text, Single& value);
-
-// A text that holds a number in the program's sense: not empty and readable.
-bool isNumericText(const std::string& text);
+// The base value of a text typed in a unit, as a field is committed: a text
+// that is no number, or whose value no single can hold, reads as 0, which the
+// field then shows.
+Single unitFieldValue(const FieldKind& kind, std::string_view text, UnitIndex unit) noexcept;
 
 } // namespace kestrova

@@ -55,6 +55,19 @@ public:
                           const std::string& table) = 0;
 };
 
+// The busy pointer for as long as this lives, given back on every way out
+// of the step, an exception included.
+class BusyPointer {
+public:
+    explicit BusyPointer(UserInterface& ui) : ui_(ui) { ui_.setBusyPointer(true); }
+    ~BusyPointer() { ui_.setBusyPointer(false); }
+    BusyPointer(const BusyPointer&) = delete;
+    BusyPointer& operator=(const BusyPointer&) = delete;
+
+private:
+    UserInterface& ui_;
+};
+
 // The help entries and buttons while the program has no help file.
 inline void showHelpUnavailable(UserInterface& ui)
 {

@@ -150,8 +150,8 @@ std::string fixedText(double magnitude, const MaskLayout& layout, NumberSymbols 
     } else {
         fraction.assign(static_cast<size_t>(layout.fractionMaximum), '0');
     }
-    while (static_cast<int>(integerDigits.size()) < layout.integerMinimum)
-        integerDigits.insert(integerDigits.begin(), '0');
+    if (static_cast<int>(integerDigits.size()) < layout.integerMinimum)
+        integerDigits.insert(0, static_cast<size_t>(layout.integerMinimum) - integerDigits.size(), '0');
 
     std::string text = layout.grouped ? groupThousands(integerDigits, symbols.groupSeparator) : integerDigits;
     if (layout.hasPoint) {
@@ -181,8 +181,8 @@ std::string scientificText(double magnitude, const MaskLayout& layout, NumberSym
     else if (layout.exponentSignAlways)
         text.push_back('+');
     std::string exponentDigits = std::to_string(std::abs(exponent));
-    while (static_cast<int>(exponentDigits.size()) < layout.exponentDigits)
-        exponentDigits.insert(exponentDigits.begin(), '0');
+    if (static_cast<int>(exponentDigits.size()) < layout.exponentDigits)
+        exponentDigits.insert(0, static_cast<size_t>(layout.exponentDigits) - exponentDigits.size(), '0');
     return text + exponentDigits;
 }
 

@@ -94,4 +94,39 @@ double parseFieldNumber(std::string_view text, char groupSeparator, char decimal
     return value;
 }
 
+Single fieldSingle(std::string_view text)
+{
+    return Single(parseFieldNumber(text));
+}
+
+Single fieldSingleOr0(std::string_view text) noexcept
+{
+    try {
+        return fieldSingle(text);
+    } catch (const NumericFault&) {
+        return Single();
+    }
+}
+
+double requiredFieldNumber(std::string_view text)
+{
+    if (!isFieldNumber(text))
+        raiseFault(FaultKind::InvalidOperation, "a field that holds no number");
+    return parseFieldNumber(text);
+}
+
+Single requiredFieldSingle(std::string_view text)
+{
+    return Single(requiredFieldNumber(text));
+}
+
+std::int16_t fieldInteger16Or0(std::string_view text) noexcept
+{
+    try {
+        return roundToInteger16(parseFieldNumber(text));
+    } catch (const NumericFault&) {
+        return 0;
+    }
+}
+
 } // namespace kestrova

@@ -204,8 +204,9 @@ TEST(CalcToolCalls, DialogToolsAnswerTheirCalls)
 {
     const json flow = call("FlowConversions.Convert", {{"conversion", 0}, {"stp", 0}, {"units", 0}, {"field", 4},
                                                         {"texts", {{"txtData(1)", "16.04"}, {"txtData(4)", "1000"}}}})["result"];
-    EXPECT_EQ(flow["texts"]["txtData(7)"], "2,536.6367");
-    EXPECT_NEAR(flow["fields"]["FlowLBHR"].get<double>(), 2536.6367, 1e-3);
+    // The molecular weight is read as a single: 2,536.6370, not the 2,536.6367 of doubles.
+    EXPECT_EQ(flow["texts"]["txtData(7)"], "2,536.6370");
+    EXPECT_EQ(flow["fields"]["FlowLBHR"].get<float>(), 2536.636962890625f);
 
     const json density = call("GasDensity.Compute", {{"temperature", 60}, {"pressure", 14.696},
                                                       {"molecularWeight", 28.97}, {"compressibility", 1}})["result"];

@@ -3,11 +3,13 @@
 
 #include "datasheets/data_sheet.h"
 #include "frame/settings_store.h"
+#include "frame/sqlite_session.h"
 #include "tools/pressure_drop/pressure_drop_fixture.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QSqlQuery>
 #include <QTemporaryDir>
 
 using namespace kestrova;
@@ -27,7 +29,7 @@ std::string column(const DataSheetColumns& row, const std::string& name)
 
 class DataSheetTest : public PressureDropTest {
 protected:
-    DataSheetTest() : store(dir.filePath("Kestrova.ini")), printer(ui, store, dir.path())
+    DataSheetTest() : store(dir.filePath("Kestrova.ini")), printer(ui, store, dir.path(), dir.filePath("data"))
     {
         store.save("Settings", "Company", "Hydro Works");
         store.save("Settings", "City", "Leeds");
@@ -208,17 +210,49 @@ TEST(DataSheetLayout, OptionCaptionsLoseOnlyTheirLeadingSign)
     EXPECT_EQ(captionWithoutAccelerator(""), "");
 }
 
-TEST(DataSheetLayout, AStagingFileThatCannotBeWrittenStillEndsInTheFailureMessage)
+TEST(DataSheetStaging, ARowThatCannotBeStagedIsReportedAndNothingIsPrinted)
 {
     QTemporaryDir dir;
-    const QString folder = dir.filePath("no-such-folder/deeper"); // the staging file cannot be made here
+    SettingsStore store(dir.filePath("Kestrova.ini"));
+    QFile blocker(dir.filePath("file"));
+    ASSERT_TRUE(blocker.open(QIODevice::WriteOnly));
+    blocker.close();
+    ASSERT_TRUE(QDir(dir.path()).mkdir("busy"));
+    ASSERT_TRUE(QDir(dir.filePath("busy")).mkdir(DataSheetPrinter::kStagingFile)); // a folder where the file would be
+    // A folder that cannot be made (below a file), and a staging file that
+    // cannot be opened: each gives the message, and no report runs at all.
+    for (const QString& folder : {dir.filePath("file/deeper"), dir.filePath("busy")}) {
+        ScriptedUserInterface ui;
+        DataSheetPrinter printer(ui, store, dir.path(), folder);
+        printer.print({"PDLiquid", "pdliquid.rpt", "Liquid Pressure Drop"}, {{"Project", "x"}});
+        EXPECT_TRUE(ui.reports.empty()) << folder.toStdString();
+        ASSERT_EQ(ui.messages.size(), 1u) << folder.toStdString();
+        EXPECT_EQ(ui.messages[0].title, "Report Generation Error");
+        EXPECT_NE(ui.messages[0].text.find("Nothing was printed."), std::string::npos);
+    }
+}
+
+TEST(DataSheetStaging, ARowLeftByAnEarlierRunIsNeverPrinted)
+{
+    // A run that ended between staging and deleting leaves its row, and an
+    // older program may have left the table with other columns: the next
+    // sheet makes the table afresh and shows only its own case.
+    QTemporaryDir dir;
     SettingsStore store(dir.filePath("Kestrova.ini"));
     ScriptedUserInterface ui;
-    ui.reportResult = 2; // the report finds no row
-    DataSheetPrinter printer(ui, store, folder);
-    printer.print({"PDLiquid", "pdliquid.rpt", "Liquid Pressure Drop"}, {{"Project", "x"}});
+    DataSheetPrinter printer(ui, store, dir.path(), dir.filePath("data"));
+    ASSERT_TRUE(QDir().mkpath(dir.filePath("data")));
+    withSqlite(printer.stagingPath(), SqliteAccess::ReadWrite, [](QSqlDatabase& db) {
+        QSqlQuery query(db);
+        query.exec("CREATE TABLE PDLiquid (Project TEXT)");
+        query.exec("INSERT INTO PDLiquid VALUES ('the earlier case')");
+    });
+    ASSERT_EQ(stagedRowCount(printer.stagingPath(), "PDLiquid"), 1);
+    printer.print({"PDLiquid", "pdliquid.rpt", "Liquid Pressure Drop"}, {{"Project", "this case"}, {"Tag", "P-101"}});
     ASSERT_EQ(ui.reports.size(), 1u);
-    EXPECT_FALSE(ui.reports[0].row.has_value());
-    ASSERT_EQ(ui.messages.size(), 1u);
-    EXPECT_EQ(ui.messages[0].title, "Report Generation Error");
+    const DataSheetColumns row = ui.reports[0].row.value();
+    EXPECT_EQ(column(row, "Project"), "this case");
+    EXPECT_EQ(column(row, "Tag"), "P-101");
+    EXPECT_EQ(stagedRowCount(printer.stagingPath(), "PDLiquid"), 0);
+    EXPECT_TRUE(ui.messages.empty());
 }

@@ -31,22 +31,24 @@ TEST(UnitField, SharedKindsHaveAMaskForEveryUnitOfTheirList)
 
 TEST(UnitField, TypedTextsComeBackAsTheyWereTyped)
 {
-    Single value;
-    ASSERT_TRUE(readUnitFieldText(field_kinds::temperature, "100", 1, value)); // °C
+    Single value = unitFieldValue(field_kinds::temperature, "100", 1); // °C
     EXPECT_NEAR(value, 212, 1e-4);
     EXPECT_EQ(unitFieldText(field_kinds::temperature, value, 1), "100.00");
-    ASSERT_TRUE(readUnitFieldText(field_kinds::diameter, "1,000", 3, value)); // mm, with a grouping sign
+    value = unitFieldValue(field_kinds::diameter, "1,000", 3); // mm, with a grouping sign
     EXPECT_NEAR(value, 1000 / 25.4, 1e-4);
     EXPECT_EQ(unitFieldText(field_kinds::diameter, value, 3), "1,000.00");
-    // A number no single can hold is refused and the stored value stays.
-    value = 7;
-    EXPECT_FALSE(readUnitFieldText(field_kinds::length, "1e300", 1, value));
-    EXPECT_EQ(value, 7);
-    EXPECT_FALSE(readPlainText("1e39", value));
-    EXPECT_EQ(value, 7);
-    EXPECT_TRUE(isNumericText("1,5"));
-    EXPECT_FALSE(isNumericText(""));
-    EXPECT_FALSE(isNumericText("abc"));
+}
+
+TEST(UnitField, ATextThatNoSingleCanHoldReadsAsZero)
+{
+    // Beyond the double range, beyond the single range, and within the single
+    // range before the conversion but beyond it after: each reads as 0, which
+    // the field then shows; no earlier value is kept behind the user's back.
+    EXPECT_EQ(unitFieldValue(field_kinds::length, "1e400", 1), 0.0);
+    EXPECT_EQ(unitFieldValue(field_kinds::length, "1e39", 1), 0.0); // ft
+    EXPECT_EQ(unitFieldValue(field_kinds::flow, "3e38", 3), 0.0); // kg/h: 6.6e38 lb/h
+    EXPECT_EQ(unitFieldValue(field_kinds::flow, "1e38", 3), Single(1e38 / 0.4535923644));
+    EXPECT_EQ(unitFieldValue(field_kinds::length, "abc", 0), 0.0);
 }
 
 TEST(UnitField, EveryOrificeFieldShowsInEveryUnitOfItsList)
@@ -79,8 +81,9 @@ TEST(UnitField, EveryNetworkFieldAndGridRowShowsInEveryUnitOfItsList)
     for (int list = 0; list < PumpNetworkModel::kUnitLists; ++list)
         for (size_t u = 0; u < unitList(PumpNetworkModel::unitTagOf(list)).size(); ++u) {
             tool.setUnit(list, static_cast<UnitIndex>(u));
-            if (list < PumpNetworkModel::kFields)
+            if (list < PumpNetworkModel::kFields) {
                 EXPECT_FALSE(tool.txtData[static_cast<size_t>(list)].empty()) << "txtData(" << list << ") unit " << u;
+            }
         }
     // Back in lbm/hr the flow row shows line 3 again; in kg/s it was a zero of
     // its mask, which the grid shows empty.

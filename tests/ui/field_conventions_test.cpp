@@ -28,7 +28,7 @@ bool refused(const QString& text, int selectionStart, int selectionLength, const
     field.setText(text);
     if (selectionLength > 0)
         field.setSelection(selectionStart, selectionLength);
-    const QKeyEvent press(QEvent::KeyPress, key.isEmpty() ? Qt::Key_Backspace : key.at(0).unicode(), Qt::NoModifier,
+    const QKeyEvent press(QEvent::KeyPress, key.isEmpty() ? int(Qt::Key_Backspace) : int(key.at(0).unicode()), Qt::NoModifier,
                           key);
     return numericKeyRefused(field, press, minus);
 }

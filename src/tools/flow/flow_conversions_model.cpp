@@ -34,14 +34,6 @@ const std::array<ConversionRoles, 6> kRoles{{{{1, 4}, 7, true},
                                              {{2, 3, 4}, 5, true},
                                              {{2, 3, 5}, 4, true}}};
 
-// A number that must be readable: an empty or unreadable text fails the run.
-double requiredNumber(const std::string& text)
-{
-    if (!isFieldNumber(text))
-        raiseFault(FaultKind::InvalidOperation, "an unreadable number");
-    return parseFieldNumber(text);
-}
-
 } // namespace
 
 FlowConversionsModel::FlowConversionsModel(SettingsStore* store, QObject* parent) : FormModel(parent), store_(store)
@@ -72,15 +64,15 @@ std::string FlowConversionsModel::unitLabel(const std::string& labelName) const
 void FlowConversionsModel::Form_Load()
 {
     ChangeNotice notice(*this);
-    const auto read = [this](const char* key) { return store_ ? store_->getInteger("Settings", key, 0) : 0; };
-    int unitSystem = read("Flow Conv Units");
-    const int condition = read("Flow Conv STP");
-    int chosen = read("Flow Conv Conv");
-    unitSystem = store_ ? store_->getInteger("Settings", "UnitSystem", unitSystem) : unitSystem;
-    chosen = store_ ? store_->getInteger("Settings", "FlowConversion", chosen) : chosen;
-    optUnits_Click(std::clamp(unitSystem, 0, 1));
-    optSTP_Click(std::clamp(condition, 0, 2));
-    optConversion_Click(std::clamp(chosen, 0, 5));
+    const auto read = [this](const char* key, int fallback, int count) {
+        return store_ ? store_->getIndex("Settings", key, fallback, count) : fallback;
+    };
+    const int unitSystem = read("UnitSystem", read("Flow Conv Units", 0, 2), 2);
+    const int condition = read("Flow Conv STP", 0, 3);
+    const int chosen = read("FlowConversion", read("Flow Conv Conv", 0, 6), 6);
+    optUnits_Click(unitSystem);
+    optSTP_Click(condition);
+    optConversion_Click(chosen);
 }
 
 void FlowConversionsModel::Form_Unload()
@@ -154,7 +146,8 @@ void FlowConversionsModel::commitText(int index)
     Single* field = fieldOf(index);
     if (!field)
         return;
-    const double typed = requiredNumber(txtData[static_cast<size_t>(index)].text);
+    // An empty or unreadable text fails the run.
+    const double typed = requiredFieldNumber(txtData[static_cast<size_t>(index)].text);
     if (units == 0) {
         *field = typed;
         return;
@@ -187,8 +180,9 @@ void FlowConversionsModel::convert()
 {
     try {
         FaultScope scope("FlowConversions");
-        const auto sg = [this] { return requiredNumber(txtData[0].text); };
-        const auto mw = [this] { return requiredNumber(txtData[1].text); };
+        // The specific gravity and the molecular weight are read from their texts as singles.
+        const auto sg = [this] { return requiredFieldSingle(txtData[0].text); };
+        const auto mw = [this] { return requiredFieldSingle(txtData[1].text); };
         Single* result = nullptr;
         double metricFactor = 1;
         switch (conversion) {

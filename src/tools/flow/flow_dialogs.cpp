@@ -1,5 +1,7 @@
 #include "tools/flow/flow_dialogs.h"
 
+#include "platform/exception_barrier.h"
+
 #include <QComboBox>
 #include <QFormLayout>
 #include <QGridLayout>
@@ -23,7 +25,7 @@ frmFlowConversions::frmFlowConversions(FlowConversionsModel& model, UserInterfac
     for (int i = 0; i < 6; ++i) {
         optConversion_[static_cast<size_t>(i)] = new QRadioButton(conversions);
         optConversion_[static_cast<size_t>(i)]->setObjectName(QString("optConversion(%1)").arg(i));
-        connect(optConversion_[static_cast<size_t>(i)], &QRadioButton::clicked, this, [this, i] { model_.optConversion_Click(i); });
+        connect(optConversion_[static_cast<size_t>(i)], &QRadioButton::clicked, this, guarded(windowTitle().toStdString(), ui_, [this, i] { model_.optConversion_Click(i); }));
         c->addWidget(optConversion_[static_cast<size_t>(i)], i / 2, i % 2);
     }
 
@@ -59,7 +61,7 @@ frmFlowConversions::frmFlowConversions(FlowConversionsModel& model, UserInterfac
     for (int i = 0; i < 3; ++i) {
         optSTP_[static_cast<size_t>(i)] = new QRadioButton(stpCaptions[i], stpFrame_);
         optSTP_[static_cast<size_t>(i)]->setObjectName(QString("optSTP(%1)").arg(i));
-        connect(optSTP_[static_cast<size_t>(i)], &QRadioButton::clicked, this, [this, i] { model_.optSTP_Click(i); });
+        connect(optSTP_[static_cast<size_t>(i)], &QRadioButton::clicked, this, guarded(windowTitle().toStdString(), ui_, [this, i] { model_.optSTP_Click(i); }));
         s->addWidget(optSTP_[static_cast<size_t>(i)]);
     }
     auto* units = new QGroupBox("Units", this);
@@ -69,7 +71,7 @@ frmFlowConversions::frmFlowConversions(FlowConversionsModel& model, UserInterfac
     for (int i = 0; i < 2; ++i) {
         optUnits_[static_cast<size_t>(i)] = new QRadioButton(unitCaptions[i], units);
         optUnits_[static_cast<size_t>(i)]->setObjectName(QString("optUnits(%1)").arg(i));
-        connect(optUnits_[static_cast<size_t>(i)], &QRadioButton::clicked, this, [this, i] { model_.optUnits_Click(i); });
+        connect(optUnits_[static_cast<size_t>(i)], &QRadioButton::clicked, this, guarded(windowTitle().toStdString(), ui_, [this, i] { model_.optUnits_Click(i); }));
         u->addWidget(optUnits_[static_cast<size_t>(i)]);
     }
 

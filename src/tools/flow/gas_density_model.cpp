@@ -2,6 +2,7 @@
 
 #include "frame/global_units.h"
 #include "frame/user_interface.h"
+#include "numeric/field_text.h"
 #include "numeric/checked_math.h"
 #include "numeric/display_mask.h"
 #include "numeric/numeric_fault.h"
@@ -65,11 +66,9 @@ void GasDensityModel::setUnit(int index, UnitIndex unit)
 void GasDensityModel::commitText(int index)
 {
     Single* targets[] = {&temperature, &pressure, &density, &molecularWeight, &compressibility};
-    if (index < 3)
-        readUnitFieldText(kindOf(index), txtData[static_cast<size_t>(index)], cboUnits[static_cast<size_t>(index)],
-                          *targets[index]);
-    else
-        readPlainText(txtData[static_cast<size_t>(index)], *targets[index]);
+    const std::string& text = txtData[static_cast<size_t>(index)];
+    *targets[index] = index < 3 ? unitFieldValue(kindOf(index), text, cboUnits[static_cast<size_t>(index)])
+                                : fieldSingleOr0(text);
     if (index < 3)
         showField(index);
 }

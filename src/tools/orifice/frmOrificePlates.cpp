@@ -1,6 +1,7 @@
 #include "tools/orifice/frmOrificePlates.h"
 
 #include "frame/user_interface.h"
+#include "platform/exception_barrier.h"
 #include "tools/orifice/orifice_model.h"
 
 #include <QApplication>
@@ -76,17 +77,17 @@ frmOrificePlates::frmOrificePlates(OrificeModel& model, UserInterface& ui, QWidg
     tabs_->setObjectName("SSTab1");
     tabs_->addTab(buildTab(0), "&Liquid Flow");
     tabs_->addTab(buildTab(1), "&Vapor/Gas Flow");
-    connect(tabs_, &QTabWidget::currentChanged, this, [this](int tab) {
+    connect(tabs_, &QTabWidget::currentChanged, this, guarded("the last action in Orifice Plates", ui_, [this](int tab) {
         if (!rendering_)
             model_.SSTab1_Click(tab);
-    });
+    }));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(4, 4, 4, 4);
     layout->addWidget(tabs_);
     setMouseTracking(true);
     watchStatus(this, "Orifice Plate Pressure Drop Calculations");
     watchStatus(tabs_, "Orifice Plate Pressure Drop Calculations");
-    connect(&model_, &OrificeModel::changed, this, &frmOrificePlates::render);
+    connect(&model_, &FormModel::changed, this, guarded("showing " + windowTitle().toStdString(), ui_, [this] { render(); }));
     render();
 }
 
@@ -133,9 +134,9 @@ QComboBox* frmOrificePlates::materialList(const QString& name, int tab, bool ele
     list->setObjectName(QString("%1(%2)").arg(name).arg(tab));
     for (const OrificeModel::Material& m : OrificeModel::materials())
         list->addItem(m.name);
-    connect(list, &QComboBox::activated, this, [this, tab, element](int index) {
+    connect(list, &QComboBox::activated, this, guarded("the last action in Orifice Plates", ui_, [this, tab, element](int index) {
         element ? model_.cboElementMaterial_Click(tab, index) : model_.cboPipeMaterial_Click(tab, index);
-    });
+    }));
     return list;
 }
 
@@ -144,7 +145,7 @@ QPushButton* frmOrificePlates::command(const QString& name, const QString& capti
     auto* button = new QPushButton(caption);
     button->setObjectName(name);
     button->setAutoDefault(false);
-    connect(button, &QPushButton::clicked, this, click);
+    connect(button, &QPushButton::clicked, this, guarded("the last action in Orifice Plates", ui_, click));
     return button;
 }
 
@@ -197,7 +198,7 @@ QWidget* frmOrificePlates::buildTab(int t)
         auto* button = new QRadioButton(OrificeModel::computeCaptions()[static_cast<size_t>(i)]);
         button->setObjectName(QString("optCompute(%1)").arg(option));
         button->setToolTip(computeTips[i]);
-        connect(button, &QRadioButton::clicked, this, [this, option] { model_.optCompute_Click(option); });
+        connect(button, &QRadioButton::clicked, this, guarded("the last action in Orifice Plates", ui_, [this, option] { model_.optCompute_Click(option); }));
         optCompute_[static_cast<size_t>(option)] = button;
         c->addWidget(button);
     }
@@ -209,7 +210,7 @@ QWidget* frmOrificePlates::buildTab(int t)
         const int option = 3 * t + i;
         auto* button = new QRadioButton(OrificeModel::tapCaptions()[static_cast<size_t>(i)]);
         button->setObjectName(QString("optMeterTap(%1)").arg(option));
-        connect(button, &QRadioButton::clicked, this, [this, option] { model_.optMeterTap_Click(option); });
+        connect(button, &QRadioButton::clicked, this, guarded("the last action in Orifice Plates", ui_, [this, option] { model_.optMeterTap_Click(option); }));
         optMeterTap_[static_cast<size_t>(option)] = button;
         tapOptions->addWidget(button);
     }

@@ -4,6 +4,7 @@
 #include "frame/global_units.h"
 #include "frame/unit_field.h"
 #include "frame/user_interface.h"
+#include "numeric/field_text.h"
 #include "numeric/display_mask.h"
 #include "tools/properties/phys_props.h"
 
@@ -100,7 +101,7 @@ OrificeModel::OrificeModel(UserInterface& ui, QObject* parent) : FormModel(paren
 void OrificeModel::Form_Load()
 {
     ChangeNotice notice(*this);
-    ui_.setBusyPointer(true);
+    const BusyPointer busy(ui_);
     compute = meterTap = 0;
     txtErrorLiquid.clear();
     txtErrorGas.clear();
@@ -115,7 +116,6 @@ void OrificeModel::Form_Load()
         showField(i);
     dirty = false;
     ui_.setToolbarButtonEnabled("Save", true);
-    ui_.setBusyPointer(false);
 }
 
 void OrificeModel::Form_Activate()
@@ -161,7 +161,7 @@ void OrificeModel::commitFieldText(int field)
     if (field < 0 || field >= kFields)
         return;
     const OrificeField& f = kFieldTable[static_cast<size_t>(field)];
-    readUnitFieldText(*f.kind, txtData[static_cast<size_t>(field)], cboUnits[static_cast<size_t>(field)], record.*f.member);
+    record.*f.member = unitFieldValue(*f.kind, txtData[static_cast<size_t>(field)], cboUnits[static_cast<size_t>(field)]);
     showField(field);
 }
 
@@ -179,7 +179,7 @@ void OrificeModel::txtDisplay_LostFocus(int index)
     if (index != 5)
         return;
     ChangeNotice notice(*this);
-    readPlainText(txtDisplay[5], record.heatCapacityRatio);
+    record.heatCapacityRatio = fieldSingleOr0(txtDisplay[5]);
     setDirty();
     ComputeOrifice();
 }
@@ -304,7 +304,7 @@ void OrificeModel::cmdTable_Click(int index)
         const Single k = ui_.GetHeatCapRatioValue(record.temperature, record.inletPressure);
         if (k != 0) { // written as text to k's field, whose change handler then runs
             txtDisplay[5] = plainNumberText(k);
-            readPlainText(txtDisplay[5], record.heatCapacityRatio);
+            record.heatCapacityRatio = fieldSingleOr0(txtDisplay[5]);
         }
     } else {
         const Single density = ui_.GetGasDensity(record.temperature, record.inletPressure);

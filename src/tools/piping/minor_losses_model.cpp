@@ -54,13 +54,13 @@ const std::array<Fitting, 35>& fittings()
 
 namespace {
 
-// A value of a field in the program's reading: the number, or 0.
-Single valueOf(const std::string& text)
+// One addition of a running sum, stored as a single. Under the tool's
+// resume-next rule a sum that no single can hold leaves the total as it was.
+void addTo(Single& total, double addend)
 {
     try {
-        return parseFieldNumber(text);
+        total = total + addend;
     } catch (const NumericFault&) {
-        return 0.0;
     }
 }
 
@@ -89,29 +89,27 @@ void MinorLossesModel::Form_Load()
 void MinorLossesModel::Sum()
 {
     ChangeNotice notice(*this);
-    double k1 = 0, k2 = 0;
+    // Each fitting's K1 and K2 are singles, and each addition is stored.
+    K1Sum = K2Sum = 0.0;
     for (size_t n = 0; n < txtQuantity.size(); ++n) {
         if (txtQuantity[n].empty())
             continue;
-        const double count = valueOf(txtQuantity[n]);
-        k1 += count * fittings()[n].K1;
-        k2 += count * fittings()[n].K2;
+        const std::int16_t count = fieldInteger16Or0(txtQuantity[n]);
+        addTo(K1Sum, count * Single(fittings()[n].K1));
+        addTo(K2Sum, count * Single(fittings()[n].K2));
         if (txtQuantity[n] == "0")
             txtQuantity[n].clear();
     }
-    K1Sum = k1;
-    K2Sum = k2;
     txtTotalK1 = formatMask(K1Sum, "#,###,##0");
     txtTotalK2 = formatMask(K2Sum, "###,##0.00");
-    double k3 = 0;
+    K3Sum = 0.0;
     for (std::string& value : txtKValue) {
         if (value.empty())
             continue;
-        k3 += valueOf(value);
+        addTo(K3Sum, fieldSingleOr0(value));
         if (value == "0")
             value.clear();
     }
-    K3Sum = k3;
     txtTotalK = formatMask(K3Sum, "###,##0.00");
 }
 
@@ -120,7 +118,7 @@ void MinorLossesModel::txtKValue_LostFocus(int index)
     if (index != 2 || txtKValue[2].empty())
         return;
     ChangeNotice notice(*this);
-    txtKValue[2] = formatMask(valueOf(txtKValue[2]), "###,##0.000");
+    txtKValue[2] = formatMask(fieldSingleOr0(txtKValue[2]), "###,##0.000");
     Sum();
 }
 
@@ -129,8 +127,8 @@ void MinorLossesModel::apply(bool hide)
     const size_t slot = static_cast<size_t>(CurrentLine());
     MinorLossStore& store = minorLossStore();
     for (size_t n = 0; n < txtQuantity.size(); ++n)
-        store.quantities[slot][n] = static_cast<std::int16_t>(valueOf(txtQuantity[n]));
-    store.otherK[slot] = valueOf(txtKValue[2]);
+        store.quantities[slot][n] = fieldInteger16Or0(txtQuantity[n]);
+    store.otherK[slot] = fieldSingleOr0(txtKValue[2]);
     store.hasData[slot] = true;
     if (hide)
         closeRequested = true;

@@ -61,12 +61,12 @@ void PipeModel::Form_Load()
     optMaterial_Click(1, 0);
     optMaterial_Click(0, 0);
     if (store_) {
-        const int chosenClass = std::clamp(store_->getInteger("Settings", "PipeClass", 0), 0, 1);
+        const int chosenClass = store_->getIndex("Settings", "PipeClass", 0, 2);
         for (int c = 0; c < 2; ++c) {
-            const int kind = std::clamp(store_->getInteger("Settings", kMaterialKeys[c], 0), 0, 2);
+            const int kind = store_->getIndex("Settings", kMaterialKeys[c], 0, 3);
             if (kind != 0)
                 optMaterial_Click(c, kind);
-            optCondition_Click(c, std::clamp(store_->getInteger("Settings", kConditionKeys[c], 0), 0, 1));
+            optCondition_Click(c, store_->getIndex("Settings", kConditionKeys[c], 0, 2));
         }
         tabPipeClass_Click(chosenClass);
     }
@@ -121,14 +121,12 @@ void PipeModel::lstMaterial_Click(int c, int index)
     if (index < 0 || index >= static_cast<int>(state.materials.size()))
         return;
     state.material = index;
-    ui_.setBusyPointer(true);
     try {
+        const BusyPointer busy(ui_);
         state.grid = readPipeTable(dataBasePath(c), kPrefixLetters[state.kind] + state.materials[static_cast<size_t>(index)]);
     } catch (const DataFileError& error) {
-        ui_.setBusyPointer(false);
         report(error);
     }
-    ui_.setBusyPointer(false);
     computeRoughness(c);
 }
 

@@ -1,6 +1,7 @@
 #include "tools/piping/piping_dialogs.h"
 
 #include "frame/user_interface.h"
+#include "platform/exception_barrier.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -34,7 +35,7 @@ frmPipe::frmPipe(PipeModel& model, UserInterface& ui, QWidget* parent)
     status(tabs_, "Pipe Standards");
     for (int c = 0; c < 2; ++c)
         tabs_->addTab(buildClass(c), PipeModel::classCaption(c));
-    connect(tabs_, &QTabWidget::currentChanged, this, [this](int c) { model_.tabPipeClass_Click(c); });
+    connect(tabs_, &QTabWidget::currentChanged, this, guarded(windowTitle().toStdString(), ui_, [this](int c) { model_.tabPipeClass_Click(c); }));
     select_ = button("cmdSelect", "Use the Selected Size and Roughness", [this] { model_.cmdSelect_Click(); });
     auto* copy = button("cmdCopy", "C&opy to Clipboard", [this] {
         QTableWidget* grid = grid_[static_cast<size_t>(model_.pipeClass)];
@@ -69,17 +70,17 @@ QWidget* frmPipe::buildClass(int c)
     for (int i = 0; i < 3; ++i) {
         auto* option = new QRadioButton(PipeModel::kindCaption(i), kinds);
         option->setObjectName(QString("%1(%2)").arg(family).arg(i));
-        connect(option, &QRadioButton::clicked, this, [this, c, i] { model_.optMaterial_Click(c, i); });
+        connect(option, &QRadioButton::clicked, this, guarded(windowTitle().toStdString(), ui_, [this, c, i] { model_.optMaterial_Click(c, i); }));
         optMaterial_[static_cast<size_t>(c)][static_cast<size_t>(i)] = option;
         k->addWidget(option);
     }
     auto* list = new QListWidget(kinds);
     list->setObjectName(QString("lstMaterial(%1)").arg(c));
     status(list, "Piping Material Listing");
-    connect(list, &QListWidget::currentRowChanged, this, [this, c](int row) {
+    connect(list, &QListWidget::currentRowChanged, this, guarded(windowTitle().toStdString(), ui_, [this, c](int row) {
         if (row >= 0 && row != model_.classes[static_cast<size_t>(c)].material)
             model_.lstMaterial_Click(c, row);
-    });
+    }));
     lstMaterial_[static_cast<size_t>(c)] = list;
     k->addWidget(list);
 
@@ -91,7 +92,7 @@ QWidget* frmPipe::buildClass(int c)
     for (int i = 0; i < 2; ++i) {
         auto* option = new QRadioButton(captions[i], condition);
         option->setObjectName(QString("%1(%2)").arg(conditionFamily).arg(i));
-        connect(option, &QRadioButton::clicked, this, [this, c, i] { model_.optCondition_Click(c, i); });
+        connect(option, &QRadioButton::clicked, this, guarded(windowTitle().toStdString(), ui_, [this, c, i] { model_.optCondition_Click(c, i); }));
         optCondition_[static_cast<size_t>(c)][static_cast<size_t>(i)] = option;
         cl->addWidget(option);
     }
@@ -112,13 +113,13 @@ QWidget* frmPipe::buildClass(int c)
     grid->horizontalHeader()->setDefaultAlignment(Qt::AlignCenter);
     grid->setStyleSheet("QTableWidget::item:focus { background-color: rgb(255, 255, 0); color: rgb(0, 0, 255); }");
     status(grid, "Pipe Data");
-    connect(grid, &QTableWidget::currentCellChanged, this, [this, c](int row, int column) {
+    connect(grid, &QTableWidget::currentCellChanged, this, guarded(windowTitle().toStdString(), ui_, [this, c](int row, int column) {
         model_.setCurrentCell(c, row, column);
-    });
-    connect(grid, &QTableWidget::cellDoubleClicked, this, [this] {
+    }));
+    connect(grid, &QTableWidget::cellDoubleClicked, this, guarded(windowTitle().toStdString(), ui_, [this] {
         if (model_.selectEnabled)
             model_.cmdSelect_Click();
-    });
+    }));
     grid_[static_cast<size_t>(c)] = grid;
 
     auto* left = new QVBoxLayout;
@@ -215,7 +216,7 @@ frmRoughness::frmRoughness(RoughnessModel& model, UserInterface& ui, QWidget* pa
         const RoughnessMaterial& entry = roughnessMaterials()[static_cast<size_t>(i)];
         auto* option = new QRadioButton(entry.caption, materials);
         option->setObjectName(QString("optPipeRoughness(%1)").arg(i));
-        connect(option, &QRadioButton::clicked, this, [this, i] { model_.optPipeRoughness_Click(i); });
+        connect(option, &QRadioButton::clicked, this, guarded(windowTitle().toStdString(), ui_, [this, i] { model_.optPipeRoughness_Click(i); }));
         option->installEventFilter(this);
         optPipeRoughness_[static_cast<size_t>(i)] = option;
         m->addWidget(option, i + 1, 0);
@@ -230,7 +231,7 @@ frmRoughness::frmRoughness(RoughnessModel& model, UserInterface& ui, QWidget* pa
         auto* option = new QRadioButton(captions[i], condition);
         option->setObjectName(QString("optPipeCondition(%1)").arg(i));
         option->setToolTip(tips[i]);
-        connect(option, &QRadioButton::clicked, this, [this, i] { model_.optPipeCondition_Click(i); });
+        connect(option, &QRadioButton::clicked, this, guarded(windowTitle().toStdString(), ui_, [this, i] { model_.optPipeCondition_Click(i); }));
         optPipeCondition_[static_cast<size_t>(i)] = option;
         c->addWidget(option);
     }
@@ -367,10 +368,10 @@ frmMinorLosses::frmMinorLosses(MinorLossesModel& model, UserInterface& ui, QWidg
         edit->setMaximumWidth(70);
         edit->setToolTip(QString("K1 = %1, K2 = %2").arg(f.K1).arg(f.K2));
         edit->setProperty("fittingGroup", groupName);
-        connect(edit, &QLineEdit::textEdited, this, [this, n](const QString& text) {
+        connect(edit, &QLineEdit::textEdited, this, guarded(windowTitle().toStdString(), ui_, [this, n](const QString& text) {
             model_.txtQuantity[static_cast<size_t>(n)] = text.toStdString();
             model_.Sum();
-        });
+        }));
         txtQuantity_[static_cast<size_t>(n)] = edit;
         const int row = rows[groupName]++;
         layout->addWidget(new QLabel(QString::fromUtf8(f.label)), row, 0);
@@ -391,10 +392,10 @@ frmMinorLosses::frmMinorLosses(MinorLossesModel& model, UserInterface& ui, QWidg
             model_.txtKValue_LostFocus(2);
         }, true, false) : output(QString("txtKValue(%1)").arg(i));
         if (i == 2)
-            connect(edit, &QLineEdit::textEdited, this, [this](const QString& text) {
+            connect(edit, &QLineEdit::textEdited, this, guarded(windowTitle().toStdString(), ui_, [this](const QString& text) {
                 model_.txtKValue[2] = text.toStdString();
                 model_.Sum();
-            });
+            }));
         txtKValue_[static_cast<size_t>(i)] = edit;
         r->addWidget(new QLabel(labels[i]), i, 0);
         r->addWidget(edit, i, 1);

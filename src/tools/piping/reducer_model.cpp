@@ -16,15 +16,6 @@ using checked::Sqr;
 
 namespace {
 
-Single valueOf(const std::string& text)
-{
-    try {
-        return parseFieldNumber(text);
-    } catch (const NumericFault&) {
-        return 0.0;
-    }
-}
-
 constexpr const char* kAngleMessage = "Invalid angle entered.\n \nThe angle entered must be between 0 and 180 degrees.";
 constexpr const char* kBetaMessage = "Invalid beta entered.\n \nBeta must be between 0 and 1.";
 
@@ -83,7 +74,7 @@ void ReducerModel::ComputeRow(int row)
     const std::string& betaText = txtBeta[static_cast<size_t>(row)];
     try {
         FaultScope scope(kind_ == ReducerKind::Contraction ? "Contractions" : "Enlargements");
-        const Single beta = valueOf(betaText);
+        const Single beta = fieldSingleOr0(betaText);
         if (row >= kGradualRows) {
             if (betaText.empty())
                 k.clear();
@@ -92,7 +83,7 @@ void ReducerModel::ComputeRow(int row)
         } else if (txtAngle[static_cast<size_t>(row)].empty() || betaText.empty()) {
             k.clear();
         } else {
-            const Single angle = valueOf(txtAngle[static_cast<size_t>(row)]);
+            const Single angle = fieldSingleOr0(txtAngle[static_cast<size_t>(row)]);
             const double H = angle * 0.5 * 3.1415926536 / 180;
             const double area = 1 - Pow(beta, 2);
             double value;
@@ -110,11 +101,16 @@ void ReducerModel::ComputeRow(int row)
 
 void ReducerModel::total()
 {
+    // The total lives in its text: each addition reads it and the row's K as
+    // singles and writes the sum back as plain text, rounded at every step.
     txtTotalK = "0";
-    double sum = 0;
-    for (const std::string& k : txtKValue)
-        sum += valueOf(k);
-    txtTotalK = plainNumberText(Single(sum));
+    for (const std::string& k : txtKValue) {
+        try {
+            txtTotalK = plainNumberText(Single(fieldSingleOr0(txtTotalK) + fieldSingleOr0(k)));
+        } catch (const NumericFault&) {
+            // resume next: the total stays as it was
+        }
+    }
 }
 
 bool ReducerModel::txtAngle_LostFocus(int row)
@@ -124,7 +120,7 @@ bool ReducerModel::txtAngle_LostFocus(int row)
     ChangeNotice notice(*this);
     const std::string& text = txtAngle[static_cast<size_t>(row)];
     if (!text.empty()) {
-        const Single angle = valueOf(text);
+        const Single angle = fieldSingleOr0(text);
         if (!(angle > 0 && angle < 180)) {
             ui_.ask(title(), kAngleMessage, MessageIcon::Stop, MessageButtons::Ok, MessageAnswer::Ok);
             focusRequest = "txtAngle(" + std::to_string(row) + ")";
@@ -143,7 +139,7 @@ bool ReducerModel::txtBeta_LostFocus(int row)
     ChangeNotice notice(*this);
     const std::string& text = txtBeta[static_cast<size_t>(row)];
     if (!text.empty()) {
-        const Single beta = valueOf(text);
+        const Single beta = fieldSingleOr0(text);
         if (!(beta > 0 && beta < 1)) {
             ui_.ask(title(), kBetaMessage, MessageIcon::Stop, MessageButtons::Ok, MessageAnswer::Ok);
             focusRequest = "txtBeta(" + std::to_string(row) + ")";
@@ -162,8 +158,8 @@ void ReducerModel::cmdApply_Click()
     auto& values = store().values[slot];
     for (int row = 0; row < kRows; ++row) {
         if (row < kGradualRows)
-            values[static_cast<size_t>(row)] = valueOf(txtAngle[static_cast<size_t>(row)]);
-        values[static_cast<size_t>(5 + row)] = valueOf(txtBeta[static_cast<size_t>(row)]);
+            values[static_cast<size_t>(row)] = fieldSingleOr0(txtAngle[static_cast<size_t>(row)]);
+        values[static_cast<size_t>(5 + row)] = fieldSingleOr0(txtBeta[static_cast<size_t>(row)]);
     }
     store().hasData[slot] = true;
     closeRequested = true;
@@ -200,7 +196,7 @@ Single ReducerModel::GetK(const std::function<void()>& showModal)
     showModal();
     if (cancelled)
         return 1.0;
-    return valueOf(txtTotalK);
+    return fieldSingleOr0(txtTotalK);
 }
 
 } // namespace kestrova

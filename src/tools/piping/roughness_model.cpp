@@ -1,5 +1,6 @@
 #include "tools/piping/roughness_model.h"
 
+#include "frame/field_kinds.h"
 #include "frame/global_units.h"
 #include "frame/settings_store.h"
 #include "frame/user_interface.h"
@@ -42,8 +43,8 @@ void RoughnessModel::Form_Load()
 {
     ChangeNotice notice(*this);
     compute();
-    material = std::clamp(store_ ? store_->getInteger("Settings", "PipeRoughness", 0) : 0, 0, 8);
-    condition = std::clamp(store_ ? store_->getInteger("Settings", "PipeCondition", 0) : 0, 0, 1);
+    material = store_ ? store_->getIndex("Settings", "PipeRoughness", 0, 9) : 0;
+    condition = store_ ? store_->getIndex("Settings", "PipeCondition", 0, 2) : 0;
     compute();
     loaded_ = true;
 }
@@ -99,10 +100,7 @@ void RoughnessModel::setUnit(UnitIndex newUnit)
 void RoughnessModel::txtData_LostFocus()
 {
     ChangeNotice notice(*this);
-    try {
-        roughness = RoughnessFromUnit(parseFieldNumber(txtData), unit);
-    } catch (const NumericFault&) {
-    }
+    roughness = unitFieldValue(field_kinds::roughness, txtData, unit);
     showRoughness();
 }
 

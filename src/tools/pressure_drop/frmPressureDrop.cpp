@@ -1,6 +1,7 @@
 #include "tools/pressure_drop/frmPressureDrop.h"
 
 #include "frame/user_interface.h"
+#include "platform/exception_barrier.h"
 #include "tools/pressure_drop/pressure_drop_model.h"
 #include "units/basLoadUnits.h"
 
@@ -44,17 +45,17 @@ frmPressureDrop::frmPressureDrop(PressureDropModel& model, UserInterface& ui, QW
     tabs_->addTab(buildLiquidTab(), "&Liquid");
     tabs_->addTab(buildGasTab(), "&Gas/Vapor");
     tabs_->addTab(buildTwoPhaseTab(), "&Two-Phase");
-    connect(tabs_, &QTabWidget::currentChanged, this, [this](int tab) {
+    connect(tabs_, &QTabWidget::currentChanged, this, guarded("the last action in Pressure Drop", ui_, [this](int tab) {
         if (!rendering_)
             model_.SSTab1_Click(tab);
-    });
+    }));
     watchStatus(tabs_, PressureDropModel::kStatusTitle);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(4, 4, 4, 4);
     layout->addWidget(tabs_);
     setMouseTracking(true);
     watchStatus(this, PressureDropModel::kStatusTitle);
-    connect(&model_, &PressureDropModel::changed, this, &frmPressureDrop::render);
+    connect(&model_, &FormModel::changed, this, guarded("showing " + windowTitle().toStdString(), ui_, [this] { render(); }));
     render();
 }
 
@@ -75,7 +76,7 @@ QPushButton* frmPressureDrop::tableButton(int index)
     button->setFixedWidth(32);
     button->setToolTip(QString::fromStdString(model_.cmdTable[static_cast<size_t>(index)].caption));
     button->setFocusPolicy(Qt::NoFocus);
-    connect(button, &QPushButton::clicked, this, [this, index] { model_.cmdTable_Click(index); });
+    connect(button, &QPushButton::clicked, this, guarded("the last action in Pressure Drop", ui_, [this, index] { model_.cmdTable_Click(index); }));
     buttons_[index] = button;
     return button;
 }
@@ -149,14 +150,14 @@ QRadioButton* frmPressureDrop::option(const QString& family, int index, const QS
     button->setObjectName(name);
     options_[name] = button;
     watchStatus(button, status);
-    connect(button, &QRadioButton::clicked, this, [this, family, index] {
+    connect(button, &QRadioButton::clicked, this, guarded("the last action in Pressure Drop", ui_, [this, family, index] {
         if (family == "optCrossSection")
             model_.optCrossSection_Click(index);
         else if (family == "optCalcType")
             model_.optCalcType_Click(index);
         else
             model_.optOrientation_Click(index);
-    });
+    }));
     return button;
 }
 
@@ -207,7 +208,7 @@ QWidget* frmPressureDrop::buildLiquidTab()
     f->addWidget(txtLiquid_, 4, 1, 1, 2);
     auto* props = new QPushButton("Get Physical Properties");
     props->setObjectName("cmdProperties(0)");
-    connect(props, &QPushButton::clicked, this, [this] { model_.cmdProperties_Click(0); });
+    connect(props, &QPushButton::clicked, this, guarded("the last action in Pressure Drop", ui_, [this] { model_.cmdProperties_Click(0); }));
     f->addWidget(props, 4, 3);
     projectRows(f, 5, 0);
 
@@ -235,7 +236,7 @@ QWidget* frmPressureDrop::buildLiquidTab()
     displayRow(r, 4, "Friction Factor (fd):", 3);
     auto* reset = new QPushButton("Reset Input Fields");
     reset->setObjectName("cmdReset(0)");
-    connect(reset, &QPushButton::clicked, this, [this] { model_.cmdReset_Click(0); });
+    connect(reset, &QPushButton::clicked, this, guarded("the last action in Pressure Drop", ui_, [this] { model_.cmdReset_Click(0); }));
     return tabPage(column({fluid, pipe}), column({results, buttonRow({reset})}));
 }
 
@@ -256,7 +257,7 @@ QWidget* frmPressureDrop::buildGasTab()
     f->addWidget(txtGas_, 7, 1, 1, 2);
     auto* props = new QPushButton("Get Physical Properties");
     props->setObjectName("cmdProperties(1)");
-    connect(props, &QPushButton::clicked, this, [this] { model_.cmdProperties_Click(1); });
+    connect(props, &QPushButton::clicked, this, guarded("the last action in Pressure Drop", ui_, [this] { model_.cmdProperties_Click(1); }));
     f->addWidget(props, 7, 3);
     projectRows(f, 8, 1);
 
@@ -297,7 +298,7 @@ QWidget* frmPressureDrop::buildGasTab()
     displayRow(r, 11, "Mach Number, Outlet:", 11);
     auto* reset = new QPushButton("Reset Input Fields");
     reset->setObjectName("cmdReset(1)");
-    connect(reset, &QPushButton::clicked, this, [this] { model_.cmdReset_Click(1); });
+    connect(reset, &QPushButton::clicked, this, guarded("the last action in Pressure Drop", ui_, [this] { model_.cmdReset_Click(1); }));
     return tabPage(column({fluid, calcType, pipe}), column({results, buttonRow({reset})}));
 }
 
@@ -320,11 +321,11 @@ QWidget* frmPressureDrop::buildTwoPhaseTab()
     auto* liquidProps = new QPushButton("Liquid Properties");
     liquidProps->setObjectName("cmdProperties(2)");
     liquidProps->setToolTip("Get Physical Properties");
-    connect(liquidProps, &QPushButton::clicked, this, [this] { model_.cmdProperties_Click(2); });
+    connect(liquidProps, &QPushButton::clicked, this, guarded("the last action in Pressure Drop", ui_, [this] { model_.cmdProperties_Click(2); }));
     auto* gasProps = new QPushButton("Vapor Properties");
     gasProps->setObjectName("cmdProperties(3)");
     gasProps->setToolTip("Get Physical Properties");
-    connect(gasProps, &QPushButton::clicked, this, [this] { model_.cmdProperties_Click(3); });
+    connect(gasProps, &QPushButton::clicked, this, guarded("the last action in Pressure Drop", ui_, [this] { model_.cmdProperties_Click(3); }));
     f->addWidget(buttonRow({liquidProps, gasProps}), 11, 0, 1, 4);
     projectRows(f, 12, 2);
 
@@ -357,7 +358,7 @@ QWidget* frmPressureDrop::buildTwoPhaseTab()
     displayRow(r, 10, "Flow Regime:", 17, 13);
     auto* reset = new QPushButton("Reset Input Fields");
     reset->setObjectName("cmdReset(2)");
-    connect(reset, &QPushButton::clicked, this, [this] { model_.cmdReset_Click(2); });
+    connect(reset, &QPushButton::clicked, this, guarded("the last action in Pressure Drop", ui_, [this] { model_.cmdReset_Click(2); }));
     return tabPage(column({fluid}), column({pipe, results, buttonRow({reset})}));
 }
 

@@ -99,7 +99,7 @@ void PressureDropModel::failureHandler()
 
 Single PressureDropModel::totalK(int k1Field, int k2Field, int k3Field, Single re, Single diameter) const
 {
-    const auto value = [this](int field) -> Single { return parseFieldNumber(txtDisplay[static_cast<size_t>(field)].text); };
+    const auto value = [this](int field) { return fieldSingle(txtDisplay[static_cast<size_t>(field)].text); };
     const Single laminarPart = Div(value(k1Field), re);
     const Single withTurbulent = laminarPart + value(k2Field) * (1 + Div(1, diameter));
     return withTurbulent + value(k3Field);

@@ -182,9 +182,8 @@ void PressureDropModel::commitFieldText(int index)
     if (index < 0 || index >= kPressureDropFields)
         return;
     const FieldBinding& field = pressureDropField(index);
-    // A number that no single can hold is not taken: the stored value stays.
-    readUnitFieldText(*field.kind, txtData[static_cast<size_t>(index)].text, cboUnits[static_cast<size_t>(index)].listIndex,
-                      record.*field.member);
+    record.*field.member =
+        unitFieldValue(*field.kind, txtData[static_cast<size_t>(index)].text, cboUnits[static_cast<size_t>(index)].listIndex);
     showField(index);
 }
 
@@ -211,10 +210,7 @@ void PressureDropModel::commitDisplayText(int index)
         Single PressureDropData::*member = index == 4   ? &PressureDropData::MolecularWeight
                                            : index == 5 ? &PressureDropData::Compressibility
                                                         : &PressureDropData::HeatCapacityRatio;
-        try {
-            record.*member = parseFieldNumber(display.text);
-        } catch (const NumericFault&) {
-        }
+        record.*member = fieldSingleOr0(display.text);
         break;
     }
     default:

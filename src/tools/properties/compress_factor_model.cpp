@@ -100,8 +100,7 @@ CompressFactorModel::CompressFactorModel(UserInterface& ui, SettingsStore* store
 void CompressFactorModel::Form_Load()
 {
     ChangeNotice notice(*this);
-    const int saved = store_ ? store_->getInteger("Settings", "EOSOption", 0) : 0;
-    optEOS_Click(std::clamp(saved, 0, 2));
+    optEOS_Click(store_ ? store_->getIndex("Settings", "EOSOption", 0, 3) : 0);
 }
 
 void CompressFactorModel::Form_Activate()
@@ -130,8 +129,8 @@ void CompressFactorModel::commitText(int index)
 {
     Single* targets[] = {&temperature, &pressure, &criticalTemperature, &criticalPressure};
     if (index >= 0 && index < 4) {
-        readUnitFieldText(kindOf(index), txtData[static_cast<size_t>(index)], cboUnits[static_cast<size_t>(index)],
-                          *targets[index]);
+        *targets[index] =
+            unitFieldValue(kindOf(index), txtData[static_cast<size_t>(index)], cboUnits[static_cast<size_t>(index)]);
         showField(index);
     }
 }
@@ -169,9 +168,7 @@ void CompressFactorModel::ComputeZ()
     try {
         double omega = 0;
         if (acentricEnabled) {
-            if (!isFieldNumber(txtData[4]))
-                raiseFault(FaultKind::InvalidOperation, "an unreadable acentric factor");
-            omega = Single(parseFieldNumber(txtData[4]));
+            omega = requiredFieldSingle(txtData[4]);
         }
         const Single z = computeCompressibility(temperature, pressure, criticalTemperature, criticalPressure, omega,
                                                 eos, hydrogen);

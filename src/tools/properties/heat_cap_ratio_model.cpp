@@ -84,8 +84,8 @@ void HeatCapRatioModel::commitText(int index)
 {
     Single* targets[] = {&temperature, &pressure, &criticalTemperature, &criticalPressure, &heatCapacity};
     if (index >= 0 && index < 5) {
-        readUnitFieldText(kindOf(index), txtData[static_cast<size_t>(index)], cboUnits[static_cast<size_t>(index)],
-                          *targets[index]);
+        *targets[index] =
+            unitFieldValue(kindOf(index), txtData[static_cast<size_t>(index)], cboUnits[static_cast<size_t>(index)]);
         showField(index);
     }
 }

@@ -1,7 +1,5 @@
 #include "tools/properties/physical_properties_model.h"
 
-#include "frame/sqlite_session.h"
-
 #include "frame/global_units.h"
 #include "numeric/display_mask.h"
 #include "numeric/field_text.h"
@@ -9,25 +7,10 @@
 #include "tools/properties/phys_props.h"
 #include "units/basLoadUnits.h"
 
-#include <QFileInfo>
-#include <QSqlQuery>
-
-#include <stdexcept>
 
 namespace kestrova {
 
 namespace {
-
-constexpr int kBlockFirstField[6] = {27, 35, 43, 19, 75, 91}; // rows 0 to 5
-
-std::optional<double> numberOf(const QVariant& v)
-{
-    if (v.isNull())
-        return std::nullopt;
-    bool ok = false;
-    const double number = v.toDouble(&ok);
-    return ok ? std::optional<double>(number) : std::nullopt;
-}
 
 // The display masks of each row by unit index.
 const char* maskOf(int row, UnitIndex unit)
@@ -49,47 +32,17 @@ const char* maskOf(int row, UnitIndex unit)
     }
 }
 
-} // namespace
-
-std::vector<Compound> readCompounds(const QString& path)
+// A temperature limit in the display unit; empty when it cannot be shown.
+std::string limitText(double kelvin, UnitIndex unit)
 {
-    if (!QFileInfo(path).isFile())
-        throw std::runtime_error("The physical properties data base cannot be found.");
-    std::vector<Compound> compounds;
-    bool ok = false;
-    withSqlite(path, SqliteAccess::ReadOnly, [&](QSqlDatabase& db) {
-        QSqlQuery query(db);
-        ok = query.exec("SELECT * FROM Compounds ORDER BY ID");
-        while (ok && query.next()) {
-            Compound c;
-            c.name = query.value(1).toString().toStdString();
-            c.molecularWeight = numberOf(query.value(4));
-            c.criticalTemperature = numberOf(query.value(5));
-            c.criticalPressure = numberOf(query.value(6));
-            c.acentricFactor = numberOf(query.value(7));
-            for (int row = 0; row < 6; ++row) {
-                const int first = kBlockFirstField[row];
-                Compound::Block& block = c.blocks[static_cast<size_t>(row)];
-                CorrelationCoefficients coefficients{};
-                bool complete = true;
-                for (int k = 0; k < 5; ++k) {
-                    const auto number = numberOf(query.value(first + k));
-                    complete = complete && number.has_value();
-                    coefficients[static_cast<size_t>(k)] = number.value_or(0);
-                }
-                if (complete)
-                    block.coefficients = coefficients;
-                block.lower = numberOf(query.value(first + 5)).value_or(0);
-                block.upper = numberOf(query.value(first + 6)).value_or(0);
-                block.equation = static_cast<std::int16_t>(numberOf(query.value(first + 7)).value_or(0));
-            }
-            compounds.push_back(std::move(c));
-        }
-    });
-    if (!ok)
-        throw std::runtime_error("The physical properties data base cannot be read.");
-    return compounds;
+    try {
+        return formatMask(kelvinToUnit(kelvin, unit), "##,##0");
+    } catch (const NumericFault&) {
+        return {};
+    }
 }
+
+} // namespace
 
 int& rememberedCompoundPosition()
 {
@@ -161,6 +114,17 @@ void PhysicalPropertiesModel::dbcComp_Click(int newPosition)
     position = newPosition;
     rememberedCompoundPosition() = newPosition;
     Refresh();
+    reportDamage();
+}
+
+bool PhysicalPropertiesModel::reportDamage()
+{
+    if (compounds_.empty() || compounds_[static_cast<size_t>(position)].damage.empty())
+        return false;
+    const Compound& c = compounds_[static_cast<size_t>(position)];
+    ui_.ask(kTitle, "The data base record of " + c.name + " holds " + c.damage + ".\nThis compound cannot be used.",
+            MessageIcon::Stop, MessageButtons::Ok, MessageAnswer::Ok);
+    return true;
 }
 
 void PhysicalPropertiesModel::Refresh()
@@ -169,6 +133,11 @@ void PhysicalPropertiesModel::Refresh()
     if (compounds_.empty())
         return;
     const Compound& c = compounds_[static_cast<size_t>(position)];
+    frameCaption = "Physical Properties:  " + c.name;
+    if (!c.damage.empty()) {
+        showDamaged();
+        return;
+    }
     value[6] = c.criticalTemperature.value_or(0);
     value[7] = c.criticalPressure.value_or(0);
     for (int row : {6, 7}) {
@@ -179,7 +148,6 @@ void PhysicalPropertiesModel::Refresh()
     txtMW = c.molecularWeight ? plainNumberText(*c.molecularWeight) : "";
     txtAF = c.acentricFactor ? plainNumberText(*c.acentricFactor) : "";
     const double Tc = (value[6] - 32) / 1.8 + 273.15;
-    frameCaption = "Physical Properties:  " + c.name;
     const double T = value[8];
     for (int row = 0; row < 6; ++row) {
         const Compound::Block& block = c.blocks[static_cast<size_t>(row)];
@@ -200,11 +168,29 @@ void PhysicalPropertiesModel::Refresh()
             s = PropertyShade::InRange;
         unitEnabled[static_cast<size_t>(row)] = s != PropertyShade::Missing;
         const UnitIndex tUnit = cboPPUnits[8];
-        txtLTL[static_cast<size_t>(row)] = formatMask(kelvinToUnit(block.lower, tUnit), "##,##0");
-        txtUTL[static_cast<size_t>(row)] = formatMask(kelvinToUnit(block.upper, tUnit), "##,##0");
+        txtLTL[static_cast<size_t>(row)] = limitText(block.lower, tUnit);
+        txtUTL[static_cast<size_t>(row)] = limitText(block.upper, tUnit);
     }
     for (int row = 0; row < kRows; ++row)
         showRow(row);
+}
+
+// A compound whose record is damaged shows nothing but its name: no value of
+// it is evaluated or handed on.
+void PhysicalPropertiesModel::showDamaged()
+{
+    value.fill(0);
+    value[8] = 298.15;
+    for (int row = 0; row < kRows; ++row) {
+        txtPhysProp[static_cast<size_t>(row)].clear();
+        shade[static_cast<size_t>(row)] = PropertyShade::Missing;
+        unitEnabled[static_cast<size_t>(row)] = false;
+    }
+    for (auto* texts : {&txtLTL, &txtUTL})
+        for (std::string& text : *texts)
+            text.clear();
+    txtMW.clear();
+    txtAF.clear();
 }
 
 void PhysicalPropertiesModel::showRow(int row)
@@ -266,23 +252,16 @@ void PhysicalPropertiesModel::txtPhysProp_LostFocus(int row)
 void PhysicalPropertiesModel::cmdSelect_Click()
 {
     ChangeNotice notice(*this);
-    if (compounds_.empty())
+    if (compounds_.empty() || reportDamage())
         return;
     PhysProps& p = physProps();
     const std::string& name = compounds_[static_cast<size_t>(position)].name;
-    const auto plain = [](const std::string& text) -> Single {
-        try {
-            return parseFieldNumber(text);
-        } catch (const NumericFault&) {
-            return 0.0;
-        }
-    };
     try {
         p.temperature = (value[8] - 273.15) * 1.8 + 32;
-        p.molecularWeight = plain(txtMW);
+        p.molecularWeight = fieldSingleOr0(txtMW);
         p.criticalTemperature = value[6];
         p.criticalPressure = value[7];
-        p.acentricFactor = plain(txtAF);
+        p.acentricFactor = fieldSingleOr0(txtAF);
         if (fluid != FluidKind::Liquid) {
             p.gasName = name;
             p.vaporViscosity = value[2];

@@ -6,10 +6,8 @@
 
 #include "frame/form_model.h"
 #include "frame/user_interface.h"
-#include "tools/properties/property_correlation.h"
+#include "tools/properties/compound_data_base.h"
 #include "units/basConversions.h"
-
-#include <QString>
 
 #include <array>
 #include <functional>
@@ -22,20 +20,6 @@ namespace kestrova {
 // How a row's fields look: the pale colour of a value in range, blue for a
 // compound without that correlation, red for a temperature at or beyond a limit.
 enum class PropertyShade { InRange, Missing, OutOfRange };
-
-struct Compound {
-    std::string name;
-    std::optional<double> molecularWeight, criticalTemperature, criticalPressure, acentricFactor;
-    struct Block {
-        std::optional<CorrelationCoefficients> coefficients; // absent when a coefficient is not numeric
-        double lower = 0, upper = 0;                         // kelvin
-        std::int16_t equation = 0;
-    };
-    std::array<Block, 6> blocks; // rows 0 to 5
-};
-
-// Reads the compound table of a data base, in its order; throws on failure.
-std::vector<Compound> readCompounds(const QString& dataBasePath);
 
 class PhysicalPropertiesModel : public FormModel {
     Q_OBJECT
@@ -74,6 +58,8 @@ public:
 
 private:
     void showRow(int row);
+    void showDamaged();
+    bool reportDamage(); // true, after its message, for a compound that cannot be used
     UserInterface& ui_;
     std::vector<Compound> compounds_;
 };

@@ -1,5 +1,7 @@
 #include "tools/properties/property_dialogs.h"
 
+#include "platform/exception_barrier.h"
+
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGridLayout>
@@ -48,16 +50,16 @@ frmPhysicalProperties::frmPhysicalProperties(PhysicalPropertiesModel& model, Use
     dbcComp_->setUniformItemSizes(true);
     for (const Compound& c : model.compounds())
         dbcComp_->addItem(QString::fromStdString(c.name));
-    connect(dbcComp_, &QListWidget::currentRowChanged, this, [this](int row) {
+    connect(dbcComp_, &QListWidget::currentRowChanged, this, guarded(windowTitle().toStdString(), ui_, [this](int row) {
         if (row >= 0 && row != model_.position)
             model_.dbcComp_Click(row);
-    });
-    connect(search_, &QLineEdit::textEdited, this, [this](const QString& text) {
+    }));
+    connect(search_, &QLineEdit::textEdited, this, guarded(windowTitle().toStdString(), ui_, [this](const QString& text) {
         const auto found = dbcComp_->findItems(text, Qt::MatchStartsWith);
         const auto anywhere = found.isEmpty() ? dbcComp_->findItems(text, Qt::MatchContains) : found;
         if (!anywhere.isEmpty())
             dbcComp_->setCurrentItem(anywhere.front());
-    });
+    }));
     auto* left = new QVBoxLayout;
     left->addWidget(new QLabel("Compound:"));
     left->addWidget(search_);
@@ -215,13 +217,13 @@ frmCompressFactor::frmCompressFactor(CompressFactorModel& model, UserInterface& 
     for (int i = 0; i < 3; ++i) {
         optEOS_[static_cast<size_t>(i)] = new QRadioButton(captions[i], eos);
         optEOS_[static_cast<size_t>(i)]->setObjectName(QString("optEOS(%1)").arg(i));
-        connect(optEOS_[static_cast<size_t>(i)], &QRadioButton::clicked, this, [this, i] { model_.optEOS_Click(i); });
+        connect(optEOS_[static_cast<size_t>(i)], &QRadioButton::clicked, this, guarded(windowTitle().toStdString(), ui_, [this, i] { model_.optEOS_Click(i); }));
         e->addWidget(optEOS_[static_cast<size_t>(i)]);
     }
     chkHydrogen_ = new QCheckBox("Hydrogen", eos);
     chkHydrogen_->setObjectName("chkHydrogen");
     chkHydrogen_->setToolTip("Used only for S-R-K");
-    connect(chkHydrogen_, &QCheckBox::clicked, this, [this](bool on) { model_.chkHydrogen_Click(on); });
+    connect(chkHydrogen_, &QCheckBox::clicked, this, guarded(windowTitle().toStdString(), ui_, [this](bool on) { model_.chkHydrogen_Click(on); }));
     e->addWidget(chkHydrogen_);
 
     QHBoxLayout* buttons = calculatorButtons(model_, dataBaseValid);
@@ -265,7 +267,7 @@ frmHeatCapRatio::frmHeatCapRatio(HeatCapRatioModel& model, UserInterface& ui, bo
         auto* option = new QRadioButton(r.caption, typical);
         option->setObjectName(QString("Option1(%1)").arg(i));
         option->setToolTip(r.formula);
-        connect(option, &QRadioButton::clicked, this, [this, i] { model_.Option1_Click(i); });
+        connect(option, &QRadioButton::clicked, this, guarded(windowTitle().toStdString(), ui_, [this, i] { model_.Option1_Click(i); }));
         option->installEventFilter(this);
         options_[static_cast<size_t>(i)] = option;
         t->addWidget(option, i % 9, i / 9);

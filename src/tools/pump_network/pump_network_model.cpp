@@ -197,9 +197,10 @@ void PumpNetworkModel::Form_Activate()
             globalUnits()[i < kFields ? fieldQuantity(i) : kGridLists[static_cast<size_t>(i - kFields)].quantity];
     for (int i = 0; i < kFields; ++i)
         cboUnits_Click(i);
-    ui_.setBusyPointer(true);
-    NetCalc();
-    ui_.setBusyPointer(false);
+    {
+        const BusyPointer busy(ui_);
+        NetCalc();
+    }
     ui_.setStatusText("Pump Network Design");
 }
 
@@ -284,8 +285,8 @@ void PumpNetworkModel::txtData_LostFocus(int field)
         return;
     ChangeNotice notice(*this);
     if (isInputField(field))
-        readUnitFieldText(fieldKind(field), txtData[static_cast<size_t>(field)], cboUnits[static_cast<size_t>(field)],
-                          fieldElement(state, field));
+        fieldElement(state, field) =
+            unitFieldValue(fieldKind(field), txtData[static_cast<size_t>(field)], cboUnits[static_cast<size_t>(field)]);
     cboUnits_Click(field);
     if ((field < 18 && field % 3 == 0) || field == 26)
         cboUnits_Click(34);
@@ -297,7 +298,7 @@ void PumpNetworkModel::txtData_LostFocus(int field)
 void PumpNetworkModel::txtHydraulicEff_LostFocus()
 {
     ChangeNotice notice(*this);
-    readPlainText(txtHydraulicEff, state.PumpEff);
+    state.PumpEff = fieldSingleOr0(txtHydraulicEff);
     txtHydraulicEff = plainNumberText(state.PumpEff);
     NetCalc();
 }
@@ -305,7 +306,7 @@ void PumpNetworkModel::txtHydraulicEff_LostFocus()
 void PumpNetworkModel::txtMinValvePercentdP_LostFocus()
 {
     ChangeNotice notice(*this);
-    readPlainText(txtMinValvePercentdP, state.LinePercentDp);
+    state.LinePercentDp = fieldSingleOr0(txtMinValvePercentdP);
     txtMinValvePercentdP = plainNumberText(state.LinePercentDp);
     NetCalc();
 }

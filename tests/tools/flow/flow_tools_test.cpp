@@ -30,12 +30,16 @@ TEST_F(FlowConversionsTest, StandardGasVolumeToMassAndBack)
     EXPECT_EQ(tool.txtData[6].role, FieldRole::NotUsed);
     type(1, "16.04");
     type(4, "1,000");
-    // 1000 SCFM of methane: 1000 * 60 * 16.04 / 379.4 lb/h.
+    // 1000 SCFM of methane: 1000 * 60 * 16.04 / 379.4 lb/h, with the molecular
+    // weight read as the single 16.0400009 and the molar volume held as the
+    // single 379.399994: 2536.63696 as a single, where doubles give 2536.63679.
     EXPECT_NEAR(tool.FlowLBHR, 1000 * 60 * 16.04 / 379.4, 0.01);
-    EXPECT_EQ(tool.txtData[7].text, "2,536.6367");
+    EXPECT_EQ(tool.txtData[7].text, "2,536.6370");
+    type(1, "16.043"); // 2537.11108 as a single; 2537.11123 in doubles
+    EXPECT_EQ(tool.txtData[7].text, "2,537.1111");
     // At NTP the molar volume is 359.0.
     tool.optSTP_Click(1);
-    EXPECT_NEAR(tool.FlowLBHR, 1000 * 60 * 16.04 / 359.0, 0.01);
+    EXPECT_NEAR(tool.FlowLBHR, 1000 * 60 * 16.043 / 359.0, 0.01);
     EXPECT_EQ(store.get("Settings", "FlowConversion", ""), "0");
 }
 

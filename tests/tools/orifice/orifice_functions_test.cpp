@@ -115,14 +115,15 @@ TEST(OrificeDischargeCoefficient, SmallPipeTermFromTheRoundedDiameter)
     const double withTerm = coefficient(2.0, 0.5, 1e5, 2);
     EXPECT_NEAR(withTerm, isoDischargeCoefficient(50.8, 0.5, 1e5, 0, 0), 3e-6);
     EXPECT_NEAR(withTerm - isoDischargeCoefficient(80, 0.5, 1e5, 0, 0), 0.011 * 0.25 * 0.8, 0.0002);
-    // At 2.8 in the single D * 0.0254 and the single 0.07112 decide.
+    // At 2.8 in the single D * 0.0254 and the single 0.07112 decide: they are
+    // the same single, so the term (for D below 0.07112 m) stays out.
     const float Dm = static_cast<float>(static_cast<double>(2.8f) * 0.0254);
-    const bool termApplies = 0.07112f > Dm;
+    ASSERT_EQ(Dm, 0.07112f);
     const double atLimit = coefficient(2.8, 0.5, 1e5, 2);
     const double withoutTerm = isoDischargeCoefficient(80, 0.5, 1e5, 0, 0);
-    if (termApplies)
-        EXPECT_NE(atLimit, static_cast<float>(withoutTerm));
     EXPECT_NEAR(atLimit, withoutTerm, 1e-6);
+    // A hair below, the term is in.
+    EXPECT_NEAR(coefficient(2.79, 0.5, 1e5, 2) - withoutTerm, 0.011 * (0.75 - 0.5) * (2.8 - 2.79), 1e-6);
 }
 
 TEST(OrificeDischargeCoefficient, FaultsOfImpossibleInputs)

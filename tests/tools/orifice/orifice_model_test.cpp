@@ -216,7 +216,7 @@ TEST_F(OrificeFileTest, DataSheetRowsFollowTheirTables)
     enterWater();
     tool.liquidName = "Water";
     SettingsStore store(dir.filePath("Kestrova.ini"));
-    DataSheetPrinter printer(ui, store, dir.path());
+    DataSheetPrinter printer(ui, store, dir.path(), dir.filePath("data"));
     tool.PrintDataSheet(printer);
     ASSERT_EQ(ui.reports.size(), 1u);
     EXPECT_EQ(ui.reports[0].title, "Orifice Plate - Liquid Flow");
