@@ -7,6 +7,7 @@
 #include "frame/settings_store.h"
 #include "frame/user_interface.h"
 #include "numeric/field_text.h"
+#include "numeric/numeric_fault.h"
 #include "tools/properties/compound_data_base.h"
 
 #include <QCoreApplication>
@@ -72,8 +73,12 @@ FramePlacement FrameModel::placement() const
         const std::string text = store_.get("Settings", key, "");
         if (!isFieldNumber(text))
             return fallback;
-        const double value = fieldSingleOr0(text);
-        return value >= least && value <= kFarthest ? value : fallback;
+        try {
+            const double value = fieldSingle(text);
+            return value >= least && value <= kFarthest ? value : fallback;
+        } catch (const NumericFault&) {
+            return fallback; // beyond the range of a single
+        }
     };
     return {read("MainLeft", defaults.left, -kFarthest), read("MainTop", defaults.top, -kFarthest),
             read("MainWidth", defaults.width, 0), read("MainHeight", defaults.height, 0)};

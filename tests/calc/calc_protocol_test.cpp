@@ -5,7 +5,9 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
+#include <sstream>
 #include <string>
+#include <vector>
 
 using kestrova::calc::answerRequest;
 using nlohmann::json;
@@ -237,4 +239,44 @@ TEST(CalcToolCalls, DialogToolsAnswerTheirCalls)
     EXPECT_EQ(call("Contractions.Row", {{"row", 0}, {"angle", "30"}, {"beta", "0.5"}})["result"]["txtKValue(0)"], "0.156");
     EXPECT_EQ(call("Enlargements.Row", {{"row", 1}, {"angle", "90"}, {"beta", "0.5"}})["result"]["txtKValue(1)"], "0.563");
     EXPECT_EQ(call("Enlargements.Row", {{"row", 12}, {"beta", "0.5"}})["ok"], false);
+}
+
+TEST(CalcProtocol, LinesBeyondReasonGetAnErrorAndTheNextLineIsRead)
+{
+    // An id nested seventy thousand deep, a line of two mebibytes, then an
+    // ordinary request: three answers, the third a result.
+    const std::string nested = R"({"id": )" + std::string(70000, '[') + std::string(70000, ']') +
+                               R"(, "call": "MinorLossDrop", "args": {"resistanceCoefficient": 1, "velocity": 2}})";
+    const std::string huge = R"({"id": ")" + std::string(2u << 20, 'x') + R"("})";
+    const std::string good = R"({"id": 3, "call": "MinorLossDrop", "args": {"resistanceCoefficient": 1, "velocity": 2}})";
+    std::istringstream in(nested + "\n" + huge + "\r\n" + good + "\n");
+    std::vector<json> answers;
+    std::string line;
+    bool tooLong = false;
+    while (kestrova::calc::readRequestLine(in, line, tooLong)) {
+        EXPECT_LE(line.size(), kestrova::calc::kMaxRequestBytes);
+        answers.push_back(json::parse(tooLong ? kestrova::calc::tooLongAnswer() : answerRequest(line)));
+    }
+    ASSERT_EQ(answers.size(), 3u);
+    EXPECT_EQ(answers[0]["ok"], false);
+    EXPECT_NE(answers[0]["error"].get<std::string>().find("deeper than 64"), std::string::npos);
+    EXPECT_EQ(answers[1]["ok"], false);
+    EXPECT_NE(answers[1]["error"].get<std::string>().find("was not read"), std::string::npos);
+    EXPECT_EQ(answers[2]["ok"], true);
+    EXPECT_EQ(answers[2]["id"], 3);
+    // Brackets inside a text are text: they do not count as nesting.
+    EXPECT_EQ(answer(R"({"id": ")" + std::string(1000, '[') + R"(", "call": "Nope"})")["error"], "unknown call 'Nope'");
+    // A nesting just within the limit is still answered.
+    EXPECT_EQ(answer(R"({"id": )" + std::string(62, '[') + std::string(62, ']') + R"(, "call": "Nope"})")["error"],
+              "unknown call 'Nope'");
+}
+
+TEST(CalcProtocol, AMaskAsLongAsALineIsFormattedInOnePass)
+{
+    // A quarter of a mebibyte of zero placeholders: every one a digit.
+    const json result = call("Format", {{"value", 12.5}, {"mask", std::string(250000, '0') + ".0"}})["result"];
+    const std::string text = result["text"];
+    ASSERT_EQ(text.size(), 250002u);
+    EXPECT_EQ(text.substr(text.size() - 5), "012.5");
+    EXPECT_EQ(text.find_first_not_of('0'), 249998u);
 }

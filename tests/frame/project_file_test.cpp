@@ -4,10 +4,16 @@
 #include "frame/project_file.h"
 #include "frame/scripted_user_interface.h"
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+
+#include <csignal>
+#include <functional>
+#include <sys/resource.h>
+#include <unistd.h>
 
 using namespace kestrova;
 
@@ -112,4 +118,132 @@ TEST(ProjectFile, AFailedSaveSaysSoAndLeavesTheOldFile)
     QByteArray bytes;
     ASSERT_TRUE(readWholeFile(path, bytes));
     EXPECT_EQ(bytes, QByteArray("old", 3));
+}
+
+namespace {
+
+// A limit on the size of the files this process writes stands in for a full
+// disk: the write fails with an error as it does when the disk is full.
+class FileSizeLimit {
+public:
+    explicit FileSizeLimit(rlim_t bytes)
+    {
+        getrlimit(RLIMIT_FSIZE, &saved_);
+        previousSignal_ = std::signal(SIGXFSZ, SIG_IGN);
+        const rlimit limit{bytes, saved_.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FileSizeLimit()
+    {
+        setrlimit(RLIMIT_FSIZE, &saved_);
+        std::signal(SIGXFSZ, previousSignal_);
+    }
+    FileSizeLimit(const FileSizeLimit&) = delete;
+    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+
+private:
+    rlimit saved_{};
+    void (*previousSignal_)(int) = nullptr;
+};
+
+QStringList filesIn(const QString& folder)
+{
+    return QDir(folder).entryList(QDir::Files | QDir::Hidden | QDir::System, QDir::Name);
+}
+
+// A save onto the disk that `saveDir` lies on fails, says so, and leaves the
+// old file whole with nothing beside it. Shared by the file size limit and
+// the real full disk below.
+void expectFullDiskKeepsTheOldFile(const QString& saveDir, const std::function<bool(const QByteArray&)>& save)
+{
+    const QString path = QDir(saveDir).filePath("case.ksv");
+    QByteArray bytes;
+    ASSERT_TRUE(readWholeFile(path, bytes));
+    const QByteArray old = bytes;
+    EXPECT_FALSE(save(QByteArray(64 * 1024, 'n')));
+    ASSERT_TRUE(readWholeFile(path, bytes));
+    EXPECT_EQ(bytes, old);
+    EXPECT_EQ(filesIn(saveDir), QStringList{"case.ksv"});
+}
+
+} // namespace
+
+TEST(ProjectFile, ASaveOntoAFullDiskFailsAndKeepsTheOldFileWhole)
+{
+    QTemporaryDir dir;
+    const QString path = dir.filePath("case.ksv");
+    ScriptedUserInterface ui;
+    ASSERT_TRUE(saveProjectFile(ui, "Pressure Drop", path.toStdString(), QByteArray(3000, 'o')));
+    expectFullDiskKeepsTheOldFile(dir.path(), [&](const QByteArray& bytes) {
+        const FileSizeLimit limit(4096);
+        return saveProjectFile(ui, "Pressure Drop", path.toStdString(), bytes);
+    });
+    ASSERT_EQ(ui.messages.size(), 1u);
+    EXPECT_EQ(ui.messages[0].icon, MessageIcon::Stop);
+    EXPECT_NE(ui.messages[0].text.find("The file could not be saved: "), std::string::npos);
+    EXPECT_NE(ui.messages[0].text.find("The data on screen are unchanged."), std::string::npos);
+}
+
+// Run by tests/frame/full_disk.sh on a tmpfs of its own, filled to the brim;
+// skipped when no such disk is given.
+TEST(ProjectFile, ASaveOntoARealFullDiskFailsAndKeepsTheOldFileWhole)
+{
+    const QString folder = qEnvironmentVariable("KESTROVA_FULL_DISK");
+    if (folder.isEmpty())
+        GTEST_SKIP() << "no full disk given";
+    ScriptedUserInterface ui;
+    expectFullDiskKeepsTheOldFile(folder, [&](const QByteArray& bytes) {
+        return saveProjectFile(ui, "Pressure Drop", QDir(folder).filePath("case.ksv").toStdString(), bytes);
+    });
+    ASSERT_EQ(ui.messages.size(), 1u);
+    EXPECT_NE(ui.messages[0].text.find("No space left on device"), std::string::npos) << ui.messages[0].text;
+}
+
+TEST(ProjectFile, WhatAnInterruptedSaveLeftIsRemovedAtTheNextSave)
+{
+    QTemporaryDir dir;
+    ScriptedUserInterface ui;
+    const QString path = dir.filePath("case.ksv");
+    // The program's own leftovers, and files of the user's that only look alike.
+    const QStringList ours{"case.ksv.kestrova-save", "case.ksv.kestrova-save.Ab12Cd"};
+    const QStringList theirs{"case.ksv.backup", "case.ksv.kestrova-save.notes", "case.ksv.kestrova-save.Ab12Cd.txt",
+                             "other.ksv.kestrova-save"};
+    for (const QString& name : ours + theirs) {
+        QFile file(dir.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write("left");
+    }
+    ASSERT_TRUE(saveProjectFile(ui, "Pressure Drop", path.toStdString(), QByteArray("\x02\x00", 2)));
+    QStringList expected = theirs + QStringList{"case.ksv"};
+    expected.sort();
+    EXPECT_EQ(filesIn(dir.path()), expected);
+}
+
+TEST(ProjectFile, ASaveKeepsTheFilesPermissions)
+{
+    QTemporaryDir dir;
+    ScriptedUserInterface ui;
+    const QString path = dir.filePath("case.ksv");
+    ASSERT_TRUE(saveProjectFile(ui, "Orifice Plates", path.toStdString(), QByteArray("\x01\x00", 2)));
+    const auto shared = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther;
+    ASSERT_TRUE(QFile::setPermissions(path, shared));
+    ASSERT_TRUE(saveProjectFile(ui, "Orifice Plates", path.toStdString(), QByteArray("\x01\x00\x05\x00", 4)));
+    const auto ownerGroupOther = QFileDevice::Permissions::fromInt(0x7077);
+    EXPECT_EQ(QFile::permissions(path) & ownerGroupOther, shared & ownerGroupOther);
+}
+
+TEST(ProjectFile, AReadOnlyFileIsNotReplaced)
+{
+    QTemporaryDir dir;
+    ScriptedUserInterface ui;
+    const QString path = dir.filePath("case.ksv");
+    ASSERT_TRUE(saveProjectFile(ui, "Orifice Plates", path.toStdString(), QByteArray("\x01\x00\x05\x00", 4)));
+    if (geteuid() == 0)
+        GTEST_SKIP() << "every file is writable for the superuser";
+    ASSERT_TRUE(QFile::setPermissions(path, QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther));
+    EXPECT_FALSE(saveProjectFile(ui, "Orifice Plates", path.toStdString(), QByteArray("\x01\x00\x06\x00", 4)));
+    EXPECT_NE(ui.messages.back().text.find("The file is read-only."), std::string::npos);
+    QByteArray bytes;
+    ASSERT_TRUE(readWholeFile(path, bytes));
+    EXPECT_EQ(bytes, QByteArray("\x01\x00\x05\x00", 4));
 }

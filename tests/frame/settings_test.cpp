@@ -1,8 +1,10 @@
 #include "frame/company_info_model.h"
+#include "frame/frame_model.h"
 #include "frame/global_units.h"
 #include "frame/recent_files.h"
 #include "frame/scripted_user_interface.h"
 #include "frame/settings_store.h"
+#include "tools/piping/roughness_model.h"
 
 #include <QTemporaryDir>
 
@@ -119,4 +121,47 @@ TEST_F(SettingsTest, CompanyBlockIsSavedOnlyWhenTheUserSaysYes)
     EXPECT_EQ(again.get("Settings", "Zip", ""), "LS1 4AP");
     EXPECT_EQ(again.get("Settings", "City", ""), "Leeds");
     EXPECT_EQ(again.get("Settings", "Country", "unset"), ""); // every key written, empty ones too
+}
+
+TEST_F(SettingsTest, ValuesOutOfRangeOrUnreadableFallBackToTheirDefaults)
+{
+    // A store edited by hand never stops a start: the placement beyond any
+    // screen, unit indices beyond their lists and option indices beyond their
+    // options each give the default; the sound keys are still read.
+    store.save("Settings", "MainLeft", "1e39");
+    store.save("Settings", "MainTop", "north");
+    store.save("Settings", "MainWidth", "-6500");
+    store.save("Settings", "MainHeight", "3e38");
+    ScriptedUserInterface ui;
+    FrameModel frame(ui, store);
+    const FramePlacement placement = frame.placement();
+    EXPECT_EQ(placement.left, 1000);
+    EXPECT_EQ(placement.top, 1000);
+    EXPECT_EQ(placement.width, 6500);
+    EXPECT_EQ(placement.height, 6500);
+    store.save("Settings", "MainWidth", "9,000");
+    EXPECT_EQ(frame.placement().width, 9000);
+
+    store.save("Units", "TUnits", "4");     // four temperature units: 0 to 3
+    store.save("Units", "PUnits", "-1");
+    store.save("Units", "STUnits", "99999999999");
+    store.save("Units", "DUnits", "2.5");
+    store.save("Units", "FlowUnits", "5"); // kg/s, the last flow unit
+    GlobalUnits units;
+    units.load(store);
+    EXPECT_EQ(units[Quantity::Temperature], 0);
+    EXPECT_EQ(units[Quantity::Pressure], 0);
+    EXPECT_EQ(units[Quantity::SurfaceTension], 1);
+    EXPECT_EQ(units[Quantity::Density], 0);
+    EXPECT_EQ(units[Quantity::Flow], 5);
+
+    EXPECT_EQ(store.getIndex("Settings", "EOSOption", 0, 3), 0);
+    store.save("Settings", "EOSOption", "3");
+    EXPECT_EQ(store.getIndex("Settings", "EOSOption", 0, 3), 0);
+    store.save("Settings", "EOSOption", "2");
+    EXPECT_EQ(store.getIndex("Settings", "EOSOption", 0, 3), 2);
+    store.save("Settings", "PipeRoughness", "9");
+    RoughnessModel roughness(ui, &store);
+    roughness.Form_Load();
+    EXPECT_EQ(roughness.material, 0);
 }

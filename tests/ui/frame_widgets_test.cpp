@@ -18,6 +18,7 @@
 #include "frame/global_units.h"
 #include "tools/properties/property_dialogs.h"
 #include "frame/settings_store.h"
+#include "platform/exception_barrier.h"
 #include "tools/pressure_drop/pressure_drop_model.h"
 
 #include <QAction>
@@ -424,14 +425,15 @@ private slots:
 };
 
 int runFieldConventionsTests(int argc, char** argv); // field_conventions_test.cpp
+int runExceptionBarrierTests(int argc, char** argv); // exception_barrier_test.cpp
 
 int main(int argc, char** argv)
 {
-    QApplication app(argc, argv);
+    GuardedApplication app(argc, argv);
     FrameWidgetsTest frame;
     DialogWidgetsTest dialogs;
     PrintingAndSmallFormsTest printing;
     return QTest::qExec(&frame, argc, argv) | QTest::qExec(&dialogs, argc, argv) | QTest::qExec(&printing, argc, argv) |
-           runFieldConventionsTests(argc, argv);
+           runFieldConventionsTests(argc, argv) | runExceptionBarrierTests(argc, argv);
 }
 #include "frame_widgets_test.moc"

@@ -175,13 +175,14 @@ void PhysicalPropertiesModel::Refresh()
         showRow(row);
 }
 
-// A compound whose record is damaged shows nothing but its name: no value of
-// it is evaluated or handed on.
+// A compound whose record is damaged shows nothing but its name and the
+// system temperature: no value of it is evaluated or handed on.
 void PhysicalPropertiesModel::showDamaged()
 {
+    const double temperature = value[8];
     value.fill(0);
-    value[8] = 298.15;
-    for (int row = 0; row < kRows; ++row) {
+    value[8] = temperature;
+    for (int row = 0; row < 8; ++row) {
         txtPhysProp[static_cast<size_t>(row)].clear();
         shade[static_cast<size_t>(row)] = PropertyShade::Missing;
         unitEnabled[static_cast<size_t>(row)] = false;
@@ -191,6 +192,7 @@ void PhysicalPropertiesModel::showDamaged()
             text.clear();
     txtMW.clear();
     txtAF.clear();
+    showRow(8);
 }
 
 void PhysicalPropertiesModel::showRow(int row)

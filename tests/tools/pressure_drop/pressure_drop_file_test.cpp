@@ -1,7 +1,9 @@
 #include "tools/pressure_drop/pressure_drop_fixture.h"
 #include "frame/reopen.h"
 
+#include "frame/frame_model.h"
 #include "frame/project_file.h"
+#include "frame/settings_store.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -153,4 +155,51 @@ TEST_F(PressureDropFileTest, AFailedSaveLeavesTheOldFileAndTheData)
     EXPECT_TRUE(tool.DirtyFlag);
     EXPECT_EQ(ui.messages.back().icon, MessageIcon::Stop);
     EXPECT_EQ(bytesOf(dir.filePath("keep.ksv")), kept);
+}
+
+TEST_F(PressureDropFileTest, ARefusedFileNeverBecomesTheToolsFile)
+{
+    SettingsStore store(dir.filePath("Kestrova.ini"));
+    FrameModel frame(ui, store);
+    frame.MDIForm_Load();
+    const auto opener = [this](int) -> DocumentTool* { return &tool; };
+    enterWaterLine();
+    ASSERT_TRUE(save(path("good.ksv")));
+    const QByteArray good = bytesOf(dir.filePath("good.ksv"));
+    writeBytes(dir.filePath("damaged.ksv"), good.left(40));
+
+    // Open a damaged file over the good case: the message, and the tool keeps
+    // the good case under its own name.
+    frame.openFile("damaged.ksv", path("damaged.ksv"), opener);
+    EXPECT_NE(ui.messages.back().text.find("damaged"), std::string::npos);
+    EXPECT_EQ(tool.strFileName(), path("good.ksv"));
+    EXPECT_EQ(tool.caption, "Pressure Drop: good.ksv");
+
+    // Save then writes the good file, and the refused one stays as it was.
+    type(8, "250");
+    ASSERT_TRUE(frame.mnuFileSave_Click(&tool, [](const std::string&) -> std::string {
+        ADD_FAILURE() << "Save asked for a name";
+        return {};
+    }));
+    EXPECT_EQ(bytesOf(dir.filePath("damaged.ksv")), good.left(40));
+    EXPECT_NE(bytesOf(dir.filePath("good.ksv")), good);
+}
+
+TEST_F(PressureDropFileTest, ASaveAsThatFailsKeepsTheCaseWithItsOwnFile)
+{
+    SettingsStore store(dir.filePath("Kestrova.ini"));
+    FrameModel frame(ui, store);
+    frame.MDIForm_Load();
+    enterWaterLine();
+    ASSERT_TRUE(save(path("good.ksv")));
+    type(8, "250");
+    tool.Form_KeyPress();
+    const std::string nowhere = dir.filePath("no/such/folder/case.ksv").toStdString();
+    EXPECT_FALSE(frame.mnuFileSaveAs_Click(&tool, [&](const std::string&) { return nowhere; }));
+    EXPECT_EQ(ui.messages.back().icon, MessageIcon::Stop);
+    EXPECT_EQ(tool.strFileName(), path("good.ksv"));
+    EXPECT_TRUE(tool.DirtyFlag);
+    EXPECT_TRUE(ui.toolbar["Save"]);
+    for (const RecentFile& recent : frame.recentFiles.entries())
+        EXPECT_NE(recent.path, nowhere);
 }

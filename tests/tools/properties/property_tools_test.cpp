@@ -1,6 +1,7 @@
 #include "frame/global_units.h"
 #include "frame/scripted_user_interface.h"
 #include "frame/settings_store.h"
+#include "frame/sqlite_session.h"
 #include "numeric/numeric_fault.h"
 #include "tools/properties/compress_factor_model.h"
 #include "tools/properties/heat_cap_ratio_model.h"
@@ -8,6 +9,8 @@
 #include "tools/properties/physical_properties_model.h"
 
 #include <QDir>
+#include <QFile>
+#include <QSqlQuery>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -186,4 +189,108 @@ TEST_F(PhysicalPropertiesTest, AMissingCorrelationShowsBlue)
     EXPECT_EQ(tool.shade[3], PropertyShade::Missing); // no vapour pressure
     EXPECT_FALSE(tool.unitEnabled[3]);
     EXPECT_EQ(tool.value[3], 0);
+}
+
+// A copy of the shipped compound data base, damaged on purpose.
+class DamagedCompoundsTest : public testing::Test {
+protected:
+    DamagedCompoundsTest() : copy(dir.filePath("compounds.sqlite"))
+    {
+        QFile::copy(QDir(KESTROVA_DATA_DIR).filePath("compounds.sqlite"), copy);
+        QFile::setPermissions(copy, QFile::ReadOwner | QFile::WriteOwner);
+    }
+    void execute(const QString& statement)
+    {
+        ASSERT_TRUE(withSqlite(copy, SqliteAccess::ReadWrite, [&](QSqlDatabase& db) {
+            QSqlQuery query(db);
+            ASSERT_TRUE(query.exec(statement)) << statement.toStdString();
+        }));
+    }
+    static int positionOf(const std::vector<Compound>& compounds, const std::string& name)
+    {
+        for (size_t i = 0; i < compounds.size(); ++i)
+            if (compounds[i].name == name)
+                return static_cast<int>(i);
+        return -1;
+    }
+    QTemporaryDir dir;
+    QString copy;
+    ScriptedUserInterface ui;
+};
+
+TEST_F(DamagedCompoundsTest, AValueBeyondItsFieldMakesTheCompoundUnusableWithAMessage)
+{
+    // An infinite upper limit of Water's liquid density, an equation number of
+    // 32768 for Methane's vapour pressure.
+    execute("UPDATE Compounds SET LD_TMAX = 9e999 WHERE COMP = 'Water'");
+    execute("UPDATE Compounds SET VP_EQ = 32768 WHERE COMP = 'Methane'");
+    const std::vector<Compound> compounds = readCompounds(copy);
+    const int water = positionOf(compounds, "Water");
+    const int methane = positionOf(compounds, "Methane");
+    ASSERT_GE(water, 0);
+    ASSERT_GE(methane, 0);
+    EXPECT_NE(compounds[static_cast<size_t>(water)].damage.find("Liquid Density"), std::string::npos);
+    EXPECT_NE(compounds[static_cast<size_t>(methane)].damage.find("Vapor Pressure"), std::string::npos);
+    EXPECT_TRUE(compounds[static_cast<size_t>(methane) + 1].damage.empty());
+
+    globalUnits() = GlobalUnits{};
+    PhysicalPropertiesModel tool(ui, compounds);
+    tool.Form_Activate();
+    tool.dbcComp_Click(water);
+    ASSERT_EQ(ui.messages.size(), 1u);
+    EXPECT_EQ(ui.messages[0].title, "Physical Properties");
+    EXPECT_EQ(ui.messages[0].icon, MessageIcon::Stop);
+    EXPECT_EQ(tool.frameCaption, "Physical Properties:  Water");
+    EXPECT_EQ(tool.txtPhysProp[0], "");
+    EXPECT_EQ(tool.txtUTL[0], "");
+    EXPECT_EQ(tool.txtPhysProp[8], "77.00"); // the system temperature stays
+    // Nothing of it is handed on: Select says so again and applies nothing.
+    physProps() = PhysProps{};
+    tool.GetPhysicalProperties(FluidKind::Liquid, 77, [&] { tool.cmdSelect_Click(); });
+    EXPECT_EQ(ui.messages.size(), 2u);
+    EXPECT_TRUE(propertiesCancelled());
+    EXPECT_EQ(physProps().liquidName, "");
+    // Another compound is sound again.
+    tool.dbcComp_Click(positionOf(compounds, "Nitrogen"));
+    EXPECT_EQ(ui.messages.size(), 2u);
+    EXPECT_FALSE(tool.txtPhysProp[0].empty());
+}
+
+TEST_F(DamagedCompoundsTest, OnlyASoundCompoundTablePassesTheFileTest)
+{
+    EXPECT_TRUE(isCompoundDataBase(copy));
+    // An empty file, a data base without the compound table (the pipe data
+    // base), and a compound table short of columns all fail.
+    QFile empty(dir.filePath("empty.sqlite"));
+    ASSERT_TRUE(empty.open(QIODevice::WriteOnly));
+    empty.close();
+    EXPECT_FALSE(isCompoundDataBase(empty.fileName()));
+    EXPECT_FALSE(isCompoundDataBase(QDir(KESTROVA_DATA_DIR).filePath("pipeastm.sqlite")));
+    execute("CREATE TABLE Narrow AS SELECT ID, COMP FROM Compounds");
+    execute("DROP TABLE Compounds");
+    execute("ALTER TABLE Narrow RENAME TO Compounds");
+    EXPECT_FALSE(isCompoundDataBase(copy));
+    EXPECT_THROW(readCompounds(copy), std::runtime_error);
+}
+
+TEST_F(DamagedCompoundsTest, ATableThatCannotBeReadToItsEndIsRefusedNotShortened)
+{
+    // Overwrite a stretch in the middle of the file: the header is sound, but
+    // the pages of the table are not.
+    QFile file(copy);
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    const qint64 size = file.size();
+    ASSERT_GT(size, 64 * 1024);
+    file.seek(size / 2);
+    file.write(QByteArray(16 * 1024, '\x5a'));
+    file.close();
+    EXPECT_FALSE(isCompoundDataBase(copy));
+    bool refused = false;
+    try {
+        const std::vector<Compound> compounds = readCompounds(copy);
+        ADD_FAILURE() << "read " << compounds.size() << " compounds from a damaged table";
+    } catch (const std::runtime_error&) {
+        refused = true;
+    }
+    EXPECT_TRUE(refused);
 }

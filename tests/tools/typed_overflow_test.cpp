@@ -1,0 +1,198 @@
+// Numbers too large for a single, typed into every field of every tool and
+// left as a user leaves them: nothing is thrown out of a tool, nothing shows
+// "nan" or "inf", and a unit field shows the 0 it took in place of the number.
+
+#include "frame/global_units.h"
+#include "frame/scripted_user_interface.h"
+#include "tools/flow/flow_conversions_model.h"
+#include "tools/flow/gas_density_model.h"
+#include "tools/orifice/orifice_model.h"
+#include "tools/piping/minor_loss_store.h"
+#include "tools/piping/minor_losses_model.h"
+#include "tools/piping/reducer_model.h"
+#include "tools/piping/roughness_model.h"
+#include "tools/pressure_drop/pressure_drop_model.h"
+#include "tools/properties/compress_factor_model.h"
+#include "tools/properties/heat_cap_ratio_model.h"
+#include "tools/pump_network/pump_network_model.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+using namespace kestrova;
+
+namespace {
+
+// Texts that no single can hold: past its range, past the double's, and a
+// string of nines as a user might lean on the key.
+const std::vector<std::string> kTooLarge{"1e39", "-3.5e38", "1e400", std::string(40, '9')};
+
+void expectShowable(const std::vector<std::string>& texts, const std::string& where)
+{
+    for (const std::string& text : texts)
+        for (const char* bad : {"nan", "inf", "NaN", "INF", "e+39"})
+            EXPECT_EQ(text.find(bad), std::string::npos) << where << " shows " << text;
+}
+
+class TypedOverflowTest : public testing::Test {
+protected:
+    TypedOverflowTest()
+    {
+        globalUnits() = GlobalUnits{};
+        minorLossStore() = MinorLossStore{};
+        CurrentLine() = 0;
+    }
+    ScriptedUserInterface ui;
+};
+
+} // namespace
+
+TEST_F(TypedOverflowTest, PressureDropFields)
+{
+    PressureDropModel tool(ui);
+    tool.Form_Load();
+    tool.Form_Activate();
+    for (int tab = 0; tab < 3; ++tab) {
+        tool.SSTab1_Click(tab);
+        for (const std::string& typed : kTooLarge) {
+            for (int i = 0; i < kPressureDropFields; ++i) {
+                tool.txtData[static_cast<size_t>(i)].text = typed;
+                ASSERT_NO_THROW(tool.txtData_LostFocus(i)) << "txtData(" << i << ") " << typed;
+                // The field shows the value the tool now holds, whatever it was before.
+                const FieldBinding& field = pressureDropField(i);
+                EXPECT_EQ(tool.txtData[static_cast<size_t>(i)].text,
+                          unitFieldText(*field.kind, tool.record.*field.member, tool.cboUnits[static_cast<size_t>(i)].listIndex))
+                    << "txtData(" << i << ")";
+            }
+            for (int i = 0; i < PressureDropModel::kDisplays; ++i) {
+                tool.txtDisplay[static_cast<size_t>(i)].text = typed;
+                ASSERT_NO_THROW(tool.txtDisplay_LostFocus(i)) << "txtDisplay(" << i << ") " << typed;
+            }
+            std::vector<std::string> texts;
+            for (const auto& field : tool.txtData)
+                texts.push_back(field.text);
+            expectShowable(texts, "Pressure Drop");
+        }
+    }
+}
+
+TEST_F(TypedOverflowTest, OrificeFields)
+{
+    OrificeModel tool(ui);
+    tool.Form_Load();
+    tool.Form_Activate();
+    for (int tab = 0; tab < 2; ++tab) {
+        tool.SSTab1_Click(tab);
+        for (const std::string& typed : kTooLarge) {
+            for (int i = 0; i < OrificeModel::kFields; ++i) {
+                tool.txtData[static_cast<size_t>(i)] = typed;
+                ASSERT_NO_THROW(tool.txtData_LostFocus(i)) << "txtData(" << i << ") " << typed;
+            }
+            tool.txtDisplay[5] = typed;
+            ASSERT_NO_THROW(tool.txtDisplay_LostFocus(5));
+            EXPECT_EQ(tool.record.heatCapacityRatio, 0.0);
+            std::vector<std::string> texts(tool.txtData.begin(), tool.txtData.end());
+            texts.insert(texts.end(), tool.txtDisplay.begin(), tool.txtDisplay.end());
+            expectShowable(texts, "Orifice Plates");
+        }
+    }
+}
+
+TEST_F(TypedOverflowTest, PumpNetworkFields)
+{
+    PumpNetworkModel tool(ui);
+    tool.Form_Load();
+    tool.Form_Activate();
+    for (const std::string& typed : kTooLarge) {
+        for (int i = 0; i < PumpNetworkModel::kFields; ++i) {
+            tool.txtData[static_cast<size_t>(i)] = typed;
+            ASSERT_NO_THROW(tool.txtData_LostFocus(i)) << "txtData(" << i << ") " << typed;
+        }
+        tool.txtHydraulicEff = typed;
+        ASSERT_NO_THROW(tool.txtHydraulicEff_LostFocus());
+        EXPECT_EQ(tool.txtHydraulicEff, "0");
+        tool.txtMinValvePercentdP = typed;
+        ASSERT_NO_THROW(tool.txtMinValvePercentdP_LostFocus());
+        std::vector<std::string> texts(tool.txtData.begin(), tool.txtData.end());
+        for (const auto& row : tool.grid)
+            texts.insert(texts.end(), row.begin(), row.end());
+        expectShowable(texts, "Pump System");
+    }
+}
+
+TEST_F(TypedOverflowTest, DialogToolFields)
+{
+    for (const std::string& typed : kTooLarge) {
+        FlowConversionsModel flow(nullptr);
+        flow.Form_Load();
+        for (int conversion = 0; conversion < 6; ++conversion) {
+            flow.optConversion_Click(conversion);
+            for (int i = 0; i < 8; ++i) {
+                flow.txtData[static_cast<size_t>(i)].text = typed;
+                ASSERT_NO_THROW(flow.txtData_LostFocus(i));
+            }
+        }
+        GasDensityModel density(ui);
+        density.Form_Load();
+        CompressFactorModel z(ui, nullptr);
+        z.Form_Load();
+        HeatCapRatioModel ratio(ui);
+        for (int i = 0; i < 6; ++i) {
+            if (i < 5) {
+                density.txtData[static_cast<size_t>(i)] = typed;
+                ASSERT_NO_THROW(density.txtData_LostFocus(i));
+            }
+            z.txtData[static_cast<size_t>(i)] = typed;
+            ASSERT_NO_THROW(z.txtData_LostFocus(i));
+            ratio.txtData[static_cast<size_t>(i)] = typed;
+            ASSERT_NO_THROW(ratio.txtData_LostFocus(i));
+        }
+        RoughnessModel roughness(ui, nullptr);
+        roughness.Form_Load();
+        roughness.txtData = typed;
+        ASSERT_NO_THROW(roughness.txtData_LostFocus());
+        EXPECT_EQ(roughness.txtData, roughnessText(roughness.roughness, roughness.unit));
+        std::vector<std::string> texts{roughness.txtData};
+        texts.insert(texts.end(), density.txtData.begin(), density.txtData.end());
+        texts.insert(texts.end(), z.txtData.begin(), z.txtData.end());
+        texts.insert(texts.end(), ratio.txtData.begin(), ratio.txtData.end());
+        for (const auto& field : flow.txtData)
+            texts.push_back(field.text);
+        expectShowable(texts, "a dialog tool");
+    }
+}
+
+TEST_F(TypedOverflowTest, MinorLossQuantitiesAndReducerRows)
+{
+    // Thirty-seven nines in a fitting quantity, then Apply: the quantity is
+    // no 16-bit count and counts as 0; the other fittings still sum.
+    MinorLossesModel losses(ui);
+    losses.Form_Load();
+    losses.txtQuantity[4] = std::string(37, '9');
+    losses.txtQuantity[23] = "1"; // a swing check valve: K1 1500, K2 1.5
+    ASSERT_NO_THROW(losses.Sum());
+    EXPECT_EQ(losses.txtTotalK1, "1,500");
+    EXPECT_EQ(losses.txtTotalK2, "1.50");
+    losses.txtQuantity[5] = "40000";
+    losses.txtKValue[2] = "1e39";
+    ASSERT_NO_THROW(losses.txtKValue_LostFocus(2));
+    ASSERT_NO_THROW(losses.cmdApply_Click());
+    EXPECT_EQ(minorLossStore().quantities[0][4], 0);
+    EXPECT_EQ(minorLossStore().quantities[0][5], 0);
+    EXPECT_EQ(minorLossStore().quantities[0][23], 1);
+    EXPECT_EQ(minorLossStore().otherK[0], 0.0);
+
+    for (ReducerKind kind : {ReducerKind::Contraction, ReducerKind::Enlargement}) {
+        ReducerModel reducer(kind, ui);
+        reducer.Form_Load();
+        for (const std::string& typed : kTooLarge) {
+            reducer.txtAngle[0] = typed;
+            ASSERT_NO_THROW(reducer.txtAngle_LostFocus(0));
+            reducer.txtBeta[5] = typed;
+            ASSERT_NO_THROW(reducer.txtBeta_LostFocus(5));
+            EXPECT_EQ(reducer.txtKValue[5], "");
+        }
+    }
+}
