@@ -35,8 +35,19 @@ std::string defaultDataBaseLocation()
     return QDir(QCoreApplication::applicationDirPath()).filePath("compounds.sqlite").toStdString();
 }
 
+FrameModel::~FrameModel()
+{
+    store_.setWriteFailureHandler(nullptr);
+}
+
 void FrameModel::MDIForm_Load()
 {
+    store_.setWriteFailureHandler([this](const std::string& file) {
+        ui_.ask("Kestrova",
+                "The settings could not be written to " + file +
+                    ".\nKestrova keeps them for this run and writes them again with the next change.",
+                MessageIcon::Warning, MessageButtons::Ok, MessageAnswer::Ok);
+    });
     globalUnits().load(store_);
     toolbar = {{"Open", true}, {"Save", false}, {"Print", false}, {"Cut", true}, {"Copy", true}, {"Paste", true}};
     recentFiles.load(store_);

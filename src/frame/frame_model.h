@@ -26,6 +26,9 @@ public:
     using ToolOpener = std::function<DocumentTool*(int kind)>;
 
     FrameModel(UserInterface& ui, SettingsStore& store) : ui_(ui), store_(store) {}
+    ~FrameModel();
+    FrameModel(const FrameModel&) = delete;
+    FrameModel& operator=(const FrameModel&) = delete;
 
     void MDIForm_Load();
     void MDIForm_Activate();

@@ -69,16 +69,26 @@ int SettingsStore::getIndex(const std::string& section, const std::string& key, 
 void SettingsStore::save(const std::string& section, const std::string& key, const std::string& text)
 {
     settings_->setValue(keyPath(section, key), QString::fromStdString(text));
+    sync();
 }
 
 void SettingsStore::remove(const std::string& section, const std::string& key)
 {
     settings_->remove(keyPath(section, key));
+    sync();
 }
 
-void SettingsStore::sync()
+bool SettingsStore::sync()
 {
     settings_->sync();
+    // QSettings keeps the first error of its life: a failure is told once.
+    const bool written = settings_->status() == QSettings::NoError;
+    if (!written && !failureReported_) {
+        failureReported_ = true;
+        if (onWriteFailure_)
+            onWriteFailure_(fileName().toStdString());
+    }
+    return written;
 }
 
 QString SettingsStore::fileName() const

@@ -6,6 +6,8 @@
 #include "frame/settings_store.h"
 #include "tools/piping/roughness_model.h"
 
+#include <QDir>
+#include <QFile>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -164,4 +166,23 @@ TEST_F(SettingsTest, ValuesOutOfRangeOrUnreadableFallBackToTheirDefaults)
     RoughnessModel roughness(ui, &store);
     roughness.Form_Load();
     EXPECT_EQ(roughness.material, 0);
+}
+
+TEST_F(SettingsTest, ASettingsFileThatCannotBeWrittenIsReportedOnceAndKeepsItsOldContent)
+{
+    store.save("Settings", "Company", "Hydro Works");
+    ScriptedUserInterface ui;
+    FrameModel frame(ui, store);
+    frame.MDIForm_Load();
+    // The store's folder turns into one where no file can be made: the
+    // settings file is replaced by a folder of the same name.
+    QFile::remove(store.fileName());
+    ASSERT_TRUE(QDir().mkdir(store.fileName()));
+    store.save("Settings", "City", "Leeds");
+    store.save("Settings", "Zip", "LS1 4AP");
+    ASSERT_EQ(ui.messages.size(), 1u);
+    EXPECT_EQ(ui.messages[0].icon, MessageIcon::Warning);
+    EXPECT_NE(ui.messages[0].text.find("could not be written to " + store.fileName().toStdString()), std::string::npos);
+    // The values stay for the run.
+    EXPECT_EQ(store.get("Settings", "City", ""), "Leeds");
 }

@@ -1,0 +1,43 @@
+// The compound data base reader: any file named as the data base is tested,
+// read, and its compounds shown and applied as a user would, without a crash
+// and without a value that reads "nan" or "inf".
+
+#include "fuzz_support.h"
+
+#include "frame/global_units.h"
+#include "frame/scripted_user_interface.h"
+#include "tools/properties/compound_data_base.h"
+#include "tools/properties/phys_props.h"
+#include "tools/properties/physical_properties_model.h"
+
+#include <stdexcept>
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    using namespace kestrova;
+    fuzz::ensureApplication();
+    const QString path = fuzz::scratchFile("compounds.sqlite", data, size);
+    (void)isCompoundDataBase(path);
+    std::vector<Compound> compounds;
+    try {
+        compounds = readCompounds(path);
+    } catch (const std::runtime_error&) {
+        return 0;
+    }
+    globalUnits() = GlobalUnits{};
+    ScriptedUserInterface ui;
+    PhysicalPropertiesModel tool(ui, std::move(compounds));
+    tool.Form_Activate();
+    const int shown = std::min<int>(static_cast<int>(tool.compounds().size()), 16);
+    for (int position = 0; position < shown; ++position) {
+        tool.dbcComp_Click(position);
+        for (int row = 0; row < PhysicalPropertiesModel::kRows; ++row)
+            fuzz::requireShowable(tool.txtPhysProp[static_cast<size_t>(row)], "a property");
+        for (int row = 0; row < 6; ++row) {
+            fuzz::requireShowable(tool.txtLTL[static_cast<size_t>(row)], "a lower limit");
+            fuzz::requireShowable(tool.txtUTL[static_cast<size_t>(row)], "an upper limit");
+        }
+        tool.GetPhysicalProperties(position % 2 ? FluidKind::Gas : FluidKind::Liquid, 77, [&] { tool.cmdSelect_Click(); });
+    }
+    return 0;
+}

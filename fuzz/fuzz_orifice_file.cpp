@@ -1,0 +1,27 @@
+// The orifice tool's project file reader (kind 1), opened as File Open opens
+// it: a message or the case, never a crash, and no field that reads "nan" or "inf".
+
+#include "fuzz_support.h"
+
+#include "calc/tool_calls.h"
+#include "frame/scripted_user_interface.h"
+#include "tools/orifice/orifice_model.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    using namespace kestrova;
+    fuzz::ensureApplication();
+    const QString path = fuzz::projectFile(1, data, size);
+    calc::resetSharedState();
+    ScriptedUserInterface ui;
+    OrificeModel tool(ui);
+    tool.Form_Load();
+    tool.Form_Activate();
+    tool.setStrFileName(path.toStdString());
+    tool.OpenSaveData("Open");
+    for (const std::string& text : tool.txtData)
+        fuzz::requireShowable(text, "an orifice field");
+    for (const std::string& text : tool.txtDisplay)
+        fuzz::requireShowable(text, "an orifice display");
+    return 0;
+}
