@@ -159,10 +159,12 @@ void orificePlatesComputeOrifice(const RequestArgs& a, JsonObject& result)
     const json& args = a.raw();
     if (args.contains("tab"))
         tool.SSTab1_Click(std::clamp<int>(a.integer16("tab"), 0, 1));
+    // The options are clicked as a user clicks them: the position an index
+    // gives (0 to 2 or 3 to 5) on the tab shown.
     if (args.contains("compute"))
-        tool.compute = std::clamp<int>(a.integer16("compute"), 0, 5) % 3;
+        tool.optCompute_Click(3 * tool.tab + std::clamp<int>(a.integer16("compute"), 0, 5) % 3);
     if (args.contains("tap"))
-        tool.meterTap = std::clamp<int>(a.integer16("tap"), 0, 5) % 3;
+        tool.optMeterTap_Click(3 * tool.tab + std::clamp<int>(a.integer16("tap"), 0, 5) % 3);
     applyUnits(objectArgument(args, "units"), OrificeModel::kFields,
                [&tool](int index, UnitIndex unit) { tool.setUnit(index, unit); });
     applyRecord(tool.record.fields(), OrificeData::names().data(), objectArgument(args, "record"));
@@ -369,11 +371,19 @@ void reducerRow(ReducerKind kind, const RequestArgs& a, JsonObject& result)
     const int row = a.integer16("row");
     if (row < 0 || row >= ReducerModel::kRows)
         throw RequestError("argument 'row' must be 0 to 9");
-    if (row < ReducerModel::kGradualRows)
+    // The angle and then the beta are left as a user leaves them: a value out
+    // of range shows its message, empties the K and stops there.
+    bool valid = true;
+    if (row < ReducerModel::kGradualRows) {
         tool.txtAngle[static_cast<size_t>(row)] = a.textOr("angle", "");
-    tool.txtBeta[static_cast<size_t>(row)] = a.textOr("beta", "");
-    tool.ComputeRow(row);
-    result.text("txtKValue(" + std::to_string(row) + ")", tool.txtKValue[static_cast<size_t>(row)]);
+        valid = tool.txtAngle_LostFocus(row);
+    }
+    if (valid) {
+        tool.txtBeta[static_cast<size_t>(row)] = a.textOr("beta", "");
+        tool.txtBeta_LostFocus(row);
+    }
+    result.text("txtKValue(" + std::to_string(row) + ")", tool.txtKValue[static_cast<size_t>(row)])
+        .raw("messages", messagesJson(ui));
 }
 
 } // namespace

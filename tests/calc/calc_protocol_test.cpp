@@ -241,6 +241,32 @@ TEST(CalcToolCalls, DialogToolsAnswerTheirCalls)
     EXPECT_EQ(call("Enlargements.Row", {{"row", 12}, {"beta", "0.5"}})["ok"], false);
 }
 
+TEST(CalcToolCalls, ReducerRowsValidateAsTheFieldsAreLeft)
+{
+    // The angle is left first: out of range it gives its message, empties the
+    // K and the beta is never reached.
+    for (const char* angle : {"0", "180", "200"}) {
+        const json row = call("Contractions.Row", {{"row", 2}, {"angle", angle}, {"beta", "2"}})["result"];
+        EXPECT_EQ(row["txtKValue(2)"], "") << angle;
+        ASSERT_EQ(row["messages"].size(), 1u) << angle;
+        EXPECT_EQ(row["messages"][0]["title"], "Contractions");
+        EXPECT_EQ(row["messages"][0]["text"], "Invalid angle entered.\n \nThe angle entered must be between 0 and 180 degrees.");
+        EXPECT_EQ(row["messages"][0]["icon"], "stop");
+    }
+    for (const char* beta : {"0", "1", "1.5"}) {
+        const json row = call("Enlargements.Row", {{"row", 7}, {"beta", beta}})["result"];
+        EXPECT_EQ(row["txtKValue(7)"], "") << beta;
+        ASSERT_EQ(row["messages"].size(), 1u) << beta;
+        EXPECT_EQ(row["messages"][0]["title"], "Englargements");
+        EXPECT_EQ(row["messages"][0]["text"], "Invalid beta entered.\n \nBeta must be between 0 and 1.");
+    }
+    // Within range there is no message; an angle with no beta has no K.
+    const json fine = call("Enlargements.Row", {{"row", 0}, {"angle", "30"}, {"beta", "0.5"}})["result"];
+    EXPECT_EQ(fine["txtKValue(0)"], "0.381");
+    EXPECT_TRUE(fine["messages"].empty());
+    EXPECT_EQ(call("Contractions.Row", {{"row", 0}, {"angle", "30"}})["result"]["txtKValue(0)"], "");
+}
+
 TEST(CalcProtocol, LinesBeyondReasonGetAnErrorAndTheNextLineIsRead)
 {
     // An id nested seventy thousand deep, a line of two mebibytes, then an

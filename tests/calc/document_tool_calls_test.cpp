@@ -90,6 +90,9 @@ TEST(OrificeCall, TheGasTabTakesKAsATypedText)
     EXPECT_NEAR(gas["result"]["record"]["heatCapacityRatio"].get<double>(), 1.4, 1e-6);
     EXPECT_EQ(gas["result"]["texts"]["txtDisplay(10)"], "0.9846");
     EXPECT_EQ(gas["result"]["texts"]["txtDisplay(11)"], "0.9500");
+    // A gas run that succeeds never touches the liquid tab's box: it keeps the
+    // message that the load's own run, on the empty record, put there.
+    EXPECT_EQ(gas["result"]["texts"]["txtErrorLiquid"], "Pipe ID cannot be zero");
     // Without k the expansion factor divides by zero: the run stops with the
     // liquid tab's standing text and no result shown.
     json without = call("OrificePlates.ComputeOrifice", {{"tab", 1}, {"record", record}});

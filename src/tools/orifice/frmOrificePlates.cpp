@@ -324,9 +324,9 @@ void frmOrificePlates::render()
         showText(txtTag_[i], m.txtTag[i]);
         cboElementMaterial_[i]->setCurrentIndex(m.elementMaterial[i]);
         cboPipeMaterial_[i]->setCurrentIndex(m.pipeMaterial[i]);
-        optCompute_[static_cast<size_t>(3 * t + m.compute)]->setChecked(true);
-        optMeterTap_[static_cast<size_t>(3 * t + m.meterTap)]->setChecked(true);
-        imgMeter_[i]->setTap(m.meterTap);
+        optCompute_[static_cast<size_t>(3 * t + m.compute[i])]->setChecked(true);
+        optMeterTap_[static_cast<size_t>(3 * t + m.meterTap[i])]->setChecked(true);
+        imgMeter_[i]->setTap(m.meterTap[i]);
         frames_[t == 0 ? 0 : 10]->setTitle(QString::fromStdString(m.propertiesCaption[i]));
         // The solved quantity is locked and tinted, its unit list tinted but usable.
         for (int field : kSolvable[i]) {

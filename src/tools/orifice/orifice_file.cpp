@@ -89,8 +89,9 @@ bool OrificeModel::saveFile()
     PhysProps& props = physProps();
     OrificeFile f;
     f.tab = static_cast<std::int16_t>(tab);
-    f.computeOption = static_cast<std::int16_t>(compute + 3 * tab); // as the control arrays number them
-    f.tapOption = static_cast<std::int16_t>(meterTap + 3 * tab);
+    const auto shown = static_cast<size_t>(tab);
+    f.computeOption = static_cast<std::int16_t>(compute[shown] + 3 * tab); // as the control arrays number them
+    f.tapOption = static_cast<std::int16_t>(meterTap[shown] + 3 * tab);
     f.materials = {static_cast<std::int16_t>(elementMaterial[0]), static_cast<std::int16_t>(elementMaterial[1]),
                    static_cast<std::int16_t>(pipeMaterial[0]), static_cast<std::int16_t>(pipeMaterial[1])};
     f.record = record;
@@ -158,7 +159,7 @@ void OrificeModel::PrintDataSheet(const DataSheetPrinter& printer)
     };
     const int g = tab == 0 ? 0 : 14; // first field of the tab
     const size_t t = static_cast<size_t>(tab);
-    std::string computation = captionWithoutAccelerator(computeCaptions()[static_cast<size_t>(compute)]);
+    std::string computation = captionWithoutAccelerator(computeCaptions()[static_cast<size_t>(compute[t])]);
     computation.pop_back(); // and without its colon
     text("Project", txtProject[t]);
     text("Tag", txtTag[t]);
@@ -182,7 +183,7 @@ void OrificeModel::PrintDataSheet(const DataSheetPrinter& printer)
         field("DrainHoleDia", "DrainHoleU", p + 3);
     text("ElementMat", materials()[static_cast<size_t>(elementMaterial[t])].name);
     field("EleExpanCoef", "EleExpanCoefU", p + 4);
-    text("TapType", captionWithoutAccelerator(tapCaptions()[static_cast<size_t>(meterTap)]));
+    text("TapType", captionWithoutAccelerator(tapCaptions()[static_cast<size_t>(meterTap[t])]));
     field("PipeDiameter", "PipeDiameterU", p + 5);
     text("PipeMat", materials()[static_cast<size_t>(pipeMaterial[t])].name);
     field("PipeExpanCoef", "PipeExpanU", p + 6);

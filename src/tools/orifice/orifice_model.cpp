@@ -21,6 +21,8 @@ const FieldKind kPressureDrop{"Pressure Drop", PressureToUnit, PressureFromUnit,
 const FieldKind kGasDensity{"Density", DensityToUnit, DensityFromUnit,
                             {"##,##0.0000", "##,##0.0000", "##,##0.0000", "##,##0.000"}};
 const FieldKind kExpansion{"Expansion Coef", ExpansionToUnit, ExpansionFromUnit, sameMask("0.00E+00")};
+// The permanent loss has one mask in every unit of its list.
+const FieldKind kPermanentLoss{"Pressure Drop", PressureToUnit, PressureFromUnit, sameMask("##,##0.00")};
 
 struct OrificeField {
     const FieldKind* kind;
@@ -56,7 +58,7 @@ std::array<OrificeField, OrificeModel::kFields> makeFieldTable()
         *row++ = {&kExpansion, &O::pipeExpansion, false, Q::Temperature};
         *row++ = {&k::velocity, &O::velocityPipe, true, Q::Velocity};
         *row++ = {&k::velocity, &O::velocityOrifice, true, Q::Velocity};
-        *row++ = {&kPressureDrop, &O::permanentLoss, true, Q::PressureDrop};
+        *row++ = {&kPermanentLoss, &O::permanentLoss, true, Q::PressureDrop};
     }
     return table;
 }
@@ -98,24 +100,32 @@ const std::array<OrificeModel::Material, OrificeModel::kMaterials>& OrificeModel
 
 OrificeModel::OrificeModel(UserInterface& ui, QObject* parent) : FormModel(parent), ui_(ui) {}
 
+// Setting the options and the materials runs their click routines, and so
+// the calculation on the empty record: the window opens with the liquid
+// tab's message of a pipe ID of zero.
 void OrificeModel::Form_Load()
 {
     ChangeNotice notice(*this);
     const BusyPointer busy(ui_);
-    compute = meterTap = 0;
+    optCompute_Click(0);
+    optMeterTap_Click(0);
     txtErrorLiquid.clear();
     txtErrorGas.clear();
-    for (int t = 0; t < 2; ++t) {
-        elementMaterial[static_cast<size_t>(t)] = 1;
-        pipeMaterial[static_cast<size_t>(t)] = 0;
-    }
-    record.elementExpansion = materials()[1].coefficient;
-    record.pipeExpansion = materials()[0].coefficient;
+    selectDefaultMaterials();
     record.referenceTemperature = 68;
-    for (int i = 0; i < kFields; ++i)
-        showField(i);
+    showField(6);
     dirty = false;
     ui_.setToolbarButtonEnabled("Save", true);
+}
+
+// Stainless steel elements and carbon steel pipes on both tabs, each through
+// its click routine, which sets the coefficient and calculates.
+void OrificeModel::selectDefaultMaterials()
+{
+    for (int t = 0; t < 2; ++t) {
+        cboElementMaterial_Click(t, 1);
+        cboPipeMaterial_Click(t, 0);
+    }
 }
 
 void OrificeModel::Form_Activate()
@@ -134,7 +144,12 @@ void OrificeModel::Form_Activate()
 void OrificeModel::SSTab1_Click(int newTab)
 {
     ChangeNotice notice(*this);
-    tab = std::clamp(newTab, 0, 1); // the Compute and Pressure Taps choices carry over
+    // The Compute and Pressure Taps choices carry over to the same position
+    // on the tab shown; nothing is calculated.
+    const int shown = std::clamp(newTab, 0, 1);
+    compute[static_cast<size_t>(shown)] = compute[static_cast<size_t>(tab)];
+    meterTap[static_cast<size_t>(shown)] = meterTap[static_cast<size_t>(tab)];
+    tab = shown;
 }
 
 void OrificeModel::setUnit(int field, UnitIndex unit)
@@ -191,8 +206,8 @@ const char* OrificeModel::unitTagOf(int field)
 
 bool OrificeModel::fieldLocked(int field) const
 {
-    const int first = field >= kGasFirstSolved ? kGasFirstSolved : kLiquidFirstSolved;
-    return field - first == compute;
+    const bool gas = field >= kGasFirstSolved;
+    return field - (gas ? kGasFirstSolved : kLiquidFirstSolved) == compute[gas ? 1 : 0];
 }
 
 void OrificeModel::optCompute_Click(int option)
@@ -200,7 +215,7 @@ void OrificeModel::optCompute_Click(int option)
     if (option < 0 || option > 5)
         return;
     ChangeNotice notice(*this);
-    compute = option % 3;
+    compute[static_cast<size_t>(option / 3)] = option % 3;
     setDirty();
     ComputeOrifice();
 }
@@ -210,7 +225,7 @@ void OrificeModel::optMeterTap_Click(int option)
     if (option < 0 || option > 5)
         return;
     ChangeNotice notice(*this);
-    meterTap = option % 3;
+    meterTap[static_cast<size_t>(option / 3)] = option % 3;
     setDirty();
     ComputeOrifice();
 }
@@ -246,8 +261,9 @@ void OrificeModel::ComputeOrifice()
 {
     ChangeNotice notice(*this);
     ModelDisplay display(*this);
+    const auto shown = static_cast<size_t>(tab);
     kestrova::ComputeOrifice(record, tab == 0 ? OrificeFluid::Liquid : OrificeFluid::Gas,
-                             static_cast<OrificeUnknown>(compute), static_cast<TapStyle>(meterTap), display);
+                             static_cast<OrificeUnknown>(compute[shown]), static_cast<TapStyle>(meterTap[shown]), display);
 }
 
 const std::array<const char*, 3>& OrificeModel::computeCaptions()
@@ -324,37 +340,40 @@ void OrificeModel::cmdReset_Click()
         return;
     ChangeNotice notice(*this);
     reset();
-    setDirty();
-    fileName_.clear();
 }
 
 // Every input back to its start, except the fields a user keeps from case to
 // case: the reference temperature and the differential pressure, the
-// temperature and the two coefficients as the materials set them.
+// temperature and the two coefficients as the materials set them. The
+// materials and options are set through their click routines, which
+// calculate on the emptied record as a user's clicks would.
 void OrificeModel::reset()
 {
     record.referenceTemperature = 68;
+    showField(6);
     caption = kTitle;
     const OrificeData kept = record;
     record = OrificeData{};
     record.referenceTemperature = kept.referenceTemperature;
+    record.elementExpansion = kept.elementExpansion;
+    record.pipeExpansion = kept.pipeExpansion;
     record.differentialPressure = kept.differentialPressure;
     record.permanentLoss = kept.permanentLoss;
     record.temperature = kept.temperature;
-    for (int t = 0; t < 2; ++t) {
-        elementMaterial[static_cast<size_t>(t)] = 1;
-        pipeMaterial[static_cast<size_t>(t)] = 0;
-    }
-    record.elementExpansion = materials()[1].coefficient;
-    record.pipeExpansion = materials()[0].coefficient;
+    selectDefaultMaterials();
     for (int i = 0; i < kFields; ++i)
         showField(i);
     for (std::string& text : txtDisplay)
         text.clear();
-    compute = meterTap = 0;
+    for (int option : {0, 3}) {
+        optCompute_Click(option);
+        optMeterTap_Click(option);
+    }
     propertiesCaption = {"Properties", "Properties"};
     txtProject = {};
     txtTag = {};
+    setDirty();
+    fileName_.clear();
 }
 
 bool OrificeModel::Form_QueryUnload()

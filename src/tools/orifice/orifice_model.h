@@ -73,8 +73,10 @@ public:
     std::array<std::string, kDisplays> txtDisplay;
     std::string txtErrorLiquid, txtErrorGas;
     int tab = 0;
-    int compute = 0;  // the option's position on its tab: flow, differential pressure, orifice diameter
-    int meterTap = 0; // flange, D and D/2, corner
+    // Each tab has its own option groups, optCompute(0..2) and (3..5), and
+    // optMeterTap likewise: per tab the position of the set option.
+    std::array<int, 2> compute{};  // flow, differential pressure, orifice diameter
+    std::array<int, 2> meterTap{}; // flange, D and D/2, corner
     std::array<int, 2> elementMaterial{1, 1}, pipeMaterial{0, 0};
     bool dirty = false;
     std::array<std::string, 2> txtProject, txtTag; // liquid tab, gas tab
@@ -85,6 +87,7 @@ public:
 
 private:
     void setDirty();
+    void selectDefaultMaterials();
     void reset();
     void chooseMaterial(int tabIndex, int material, std::array<int, 2>& chosen, Single& coefficient,
                         const std::array<int, 2>& coefficientFields);

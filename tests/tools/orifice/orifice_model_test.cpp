@@ -7,6 +7,7 @@
 #include "frame/reopen.h"
 #include "frame/settings_store.h"
 #include "frame/scripted_user_interface.h"
+#include "numeric/display_mask.h"
 #include "tools/orifice/orifice_model.h"
 #include "tools/properties/phys_props.h"
 
@@ -16,6 +17,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 using namespace kestrova;
@@ -51,6 +53,10 @@ TEST_F(OrificeToolTest, LoadStartsWithItsMaterialsAndReferenceTemperature)
     EXPECT_TRUE(ui.toolbar["Save"]);
     EXPECT_TRUE(tool.fieldLocked(0)); // flow is solved
     EXPECT_FALSE(tool.fieldLocked(1));
+    // Setting the options and materials at load ran the calculation on the
+    // empty record with the liquid tab in front: its message stands.
+    EXPECT_EQ(tool.txtErrorLiquid, "Pipe ID cannot be zero");
+    EXPECT_EQ(tool.txtErrorGas, "");
 }
 
 TEST_F(OrificeToolTest, ALiquidCaseTypedInMetricUnits)
@@ -94,6 +100,38 @@ TEST_F(OrificeToolTest, ComputeChoicesSolveForTheirQuantityAndCarryOverTabs)
     EXPECT_NEAR(tool.record.differentialPressure, 10 * std::pow(100000 / 119542.2, 2), 0.02);
     tool.SSTab1_Click(1);
     EXPECT_TRUE(tool.fieldLocked(15)); // the same position on the gas tab
+    // Each tab has its own group: a choice on the gas tab leaves the liquid
+    // tab's as it was until the next tab switch carries it over.
+    tool.optCompute_Click(5);
+    tool.optMeterTap_Click(4);
+    EXPECT_TRUE(tool.fieldLocked(16));
+    EXPECT_TRUE(tool.fieldLocked(1));
+    EXPECT_EQ(tool.meterTap[0], 0);
+    tool.SSTab1_Click(0);
+    EXPECT_TRUE(tool.fieldLocked(2));
+    EXPECT_EQ(tool.meterTap[0], 1);
+}
+
+TEST_F(OrificeToolTest, ThePermanentLossHasTwoDecimalsInEveryUnit)
+{
+    // Water through a half-beta plate in 4.026 in at 10 psi: a loss of about
+    // 7.3 psi, shown in each unit of its list with the one mask "##,##0.00",
+    // where the differential pressure keeps masks of its own.
+    for (const auto& [field, text] : std::vector<std::pair<int, std::string>>{
+             {1, "10"}, {2, "2.013"}, {3, "68"}, {4, "62.4"}, {5, "1"}, {9, "4.026"}})
+        type(field, text);
+    const QRegularExpression twoDecimals("^\\d{1,3}(,\\d{3})*\\.\\d\\d$");
+    for (UnitIndex unit = 0; unit < 8; ++unit) {
+        tool.setUnit(13, unit);
+        tool.setUnit(28, unit);
+        EXPECT_TRUE(twoDecimals.match(QString::fromStdString(data(13))).hasMatch()) << unit << " " << data(13);
+        EXPECT_EQ(data(28), data(13));
+        EXPECT_EQ(tool.txtData[13], formatMask(PressureToUnit(tool.record.permanentLoss, unit), "##,##0.00"));
+    }
+    tool.setUnit(13, 6); // Pa: the differential pressure's mask has one decimal there
+    tool.setUnit(1, 6);
+    EXPECT_EQ(data(1).substr(data(1).find('.')).size(), 2u);
+    EXPECT_EQ(data(13).substr(data(13).find('.')).size(), 3u);
 }
 
 TEST_F(OrificeToolTest, OtherMaterialZeroesItsCoefficientAndAsksForIt)
@@ -165,12 +203,40 @@ TEST_F(OrificeFileTest, ReopeningGivesTheSameFiguresAndKeepsTypedCoefficients)
     OrificeModel again(other);
     ASSERT_TRUE(reopenIn(again, path("gas.ksv")));
     EXPECT_EQ(again.tab, 1);
-    EXPECT_EQ(again.compute, 1);
+    EXPECT_EQ(again.compute[1], 1);
     EXPECT_EQ(again.pipeMaterial[1], 19);
     EXPECT_EQ(again.record.pipeExpansion, Single(5.5e-6)); // the record wins over the list's table
     EXPECT_EQ(again.txtData[25], "5.50E-06");
     EXPECT_EQ(again.record.pipeID, tool.record.pipeID);
     EXPECT_FALSE(again.dirty);
+}
+
+TEST_F(OrificeFileTest, AFileSetsTheOptionOfItsOwnTabAndTheOtherTabKeepsItsOwn)
+{
+    // A gas case solved for the orifice diameter on corner taps.
+    enterWater();
+    tool.SSTab1_Click(1);
+    tool.optCompute_Click(5);
+    tool.optMeterTap_Click(5);
+    tool.setStrFileName(path("bore.ksv"));
+    ASSERT_TRUE(tool.OpenSaveData("Save"));
+
+    // Opened into a tool whose liquid tab solves the differential pressure on D and D/2 taps.
+    ScriptedUserInterface other;
+    OrificeModel again(other);
+    again.Form_Load();
+    again.Form_Activate();
+    again.optCompute_Click(1);
+    again.optMeterTap_Click(1);
+    again.setStrFileName(path("bore.ksv"));
+    ASSERT_TRUE(again.OpenSaveData("Open"));
+    EXPECT_EQ(again.tab, 1);
+    EXPECT_EQ(again.compute[1], 2);
+    EXPECT_EQ(again.meterTap[1], 2);
+    EXPECT_EQ(again.compute[0], 1);
+    EXPECT_EQ(again.meterTap[0], 1);
+    EXPECT_TRUE(again.fieldLocked(16));
+    EXPECT_TRUE(again.fieldLocked(1));
 }
 
 TEST_F(OrificeFileTest, AnotherToolsFileIsRefusedAndChangesNothing)
@@ -202,6 +268,10 @@ TEST_F(OrificeFileTest, ResetAndTheCloseQuestion)
     EXPECT_EQ(tool.record.temperature, 68);
     EXPECT_EQ(tool.txtDisplay[0], "");
     EXPECT_TRUE(tool.dirty);
+    // The options and materials were set by their click routines: the run on
+    // the emptied record left its message.
+    EXPECT_EQ(tool.txtErrorLiquid, "Pipe ID cannot be zero");
+    EXPECT_EQ(tool.record.elementExpansion, Single(9.4e-6));
 
     ui.answers = {MessageAnswer::Cancel};
     EXPECT_FALSE(tool.Form_QueryUnload());
