@@ -1,6 +1,7 @@
 #include "calc/calc_protocol.h"
 #include "calc/function_calls.h"
 #include "numeric/display_mask.h"
+#include "units/basConversions.h"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
@@ -132,16 +133,31 @@ TEST(CalcProtocol, FormatParseAndEveryConversionByName)
     EXPECT_EQ(call("ParseNumber", {{"text", "1,234.5"}})["result"]["value"], 1234.5);
     EXPECT_EQ(call("ParseNumber", {{"text", "abc"}})["result"]["value"], 0);
     EXPECT_EQ(call("DensityProductToUnit", {{"value", 2}, {"b", 500}, {"index", 1}})["result"]["value"], 1);
-    for (const char* name : {"TemperatureToUnit", "TemperatureFromUnit", "PressureToUnit", "PressureFromUnit",
-                             "PascalToUnit", "DensityToUnit", "DensityFromUnit", "ViscosityToUnit",
-                             "ViscosityFromUnit", "SurfaceTensionToUnit", "SurfaceTensionFromUnit",
-                             "RoughnessToUnit", "RoughnessFromUnit", "FlowToUnit", "FlowFromUnit",
-                             "VelocityToUnit", "VelocityFromUnit", "LengthToUnit", "LengthFromUnit",
-                             "DiameterToUnit", "DiameterFromUnit", "HeatCapacityToUnit", "HeatCapacityFromUnit",
-                             "ExpansionToUnit", "ExpansionFromUnit", "PowerToUnit", "HeadToUnit"}) {
-        const json reply = call(name, {{"value", 10}, {"index", 1}});
-        EXPECT_EQ(reply["ok"], true) << name;
-        EXPECT_TRUE(reply["result"]["value"].is_number()) << name;
+    // Each name reaches its own conversion: the answer is that function's
+    // value, to the last bit, for the second and the last unit of its list.
+    using namespace kestrova;
+    const std::vector<std::pair<const char*, double (*)(double, UnitIndex)>> conversions{
+        {"TemperatureToUnit", TemperatureToUnit},     {"TemperatureFromUnit", TemperatureFromUnit},
+        {"PressureToUnit", PressureToUnit},           {"PressureFromUnit", PressureFromUnit},
+        {"PascalToUnit", PascalToUnit},               {"DensityToUnit", DensityToUnit},
+        {"DensityFromUnit", DensityFromUnit},         {"ViscosityToUnit", ViscosityToUnit},
+        {"ViscosityFromUnit", ViscosityFromUnit},     {"SurfaceTensionToUnit", SurfaceTensionToUnit},
+        {"SurfaceTensionFromUnit", SurfaceTensionFromUnit}, {"RoughnessToUnit", RoughnessToUnit},
+        {"RoughnessFromUnit", RoughnessFromUnit},     {"FlowToUnit", FlowToUnit},
+        {"FlowFromUnit", FlowFromUnit},               {"VelocityToUnit", VelocityToUnit},
+        {"VelocityFromUnit", VelocityFromUnit},       {"LengthToUnit", LengthToUnit},
+        {"LengthFromUnit", LengthFromUnit},           {"DiameterToUnit", DiameterToUnit},
+        {"DiameterFromUnit", DiameterFromUnit},       {"HeatCapacityToUnit", HeatCapacityToUnit},
+        {"HeatCapacityFromUnit", HeatCapacityFromUnit}, {"ExpansionToUnit", ExpansionToUnit},
+        {"ExpansionFromUnit", ExpansionFromUnit},     {"PowerToUnit", PowerToUnit},
+        {"HeadToUnit", HeadToUnit}};
+    for (const auto& [name, conversion] : conversions) {
+        for (UnitIndex index : {UnitIndex(1), UnitIndex(2), UnitIndex(7)}) {
+            const double expected = conversion(16.04, index);
+            const json reply = call(name, {{"value", 16.04}, {"index", index}});
+            ASSERT_EQ(reply["ok"], true) << name;
+            EXPECT_EQ(reply["result"]["value"].get<double>(), expected) << name << " unit " << index;
+        }
     }
     EXPECT_EQ(call("TemperatureToUnit", {{"value", 32}, {"index", 1}})["result"]["value"], 0);
 }

@@ -177,3 +177,37 @@ TEST(GasFlowFaults, ZeroFlowAreaWeightOrCompressibility)
     EXPECT_THROW(AdiabaticGasFlow(in, out, user), NumericFault);
     EXPECT_TRUE(user.messages.empty());
 }
+
+// Hand-worked references: 20,000 lb/h of air at 100 psia and 100 °F in a
+// 4.026 in bore, f L/D = 10 and K = 2. The inlet: rho = 0.4823367 lb/ft3,
+// c = 1159.639 ft/s, G = 62.84237 lb/(ft2 s), M1 = 0.1123517. Each outlet
+// state below was found by an independent solver in double precision (a
+// Newton iteration for the isothermal line, a bisection for the adiabatic
+// one) on the line equations as published and as the program states them.
+
+TEST(IsothermalGasFlow, AgreesWithTheClassicalIsothermalLineEquation)
+{
+    // P1^2 - P2^2 = G^2 Z R T / (gc M) (2 ln(P1 / P2) + f L/D + K):
+    // P2 = 88.52267 psia, M2 = P1 M1 / P2 = 0.1269185.
+    GasLineOutlet out;
+    RecordingFeedback user;
+    IsothermalGasFlow(airLine(20000, 10, 2), out, user);
+    EXPECT_EQ(out.flowType, "Subsonic");
+    EXPECT_NEAR(out.inletMach, 0.1123517, 2e-7);
+    EXPECT_NEAR(out.outletPressure, 88.52267, 2e-4);
+    EXPECT_NEAR(out.outletMach, 0.1269185, 2e-7);
+}
+
+TEST(AdiabaticGasFlow, AgreesWithItsLineEquationSolvedIndependently)
+{
+    // f L/D + K = 1/(M1^2 k) - 1/(M2^2 k) + (k + 1)/(2 k) ln(M1^2 / M2^2):
+    // M2 = 0.1268677, P2 = P1 M1 / (M2 sqrt(C2 / C1)) = 88.52746 psia,
+    // T2 = (P2 M2 / (P1 M1))^2 T1 = 99.61255 °F.
+    GasLineOutlet out;
+    RecordingFeedback user;
+    AdiabaticGasFlow(airLine(20000, 10, 2), out, user);
+    EXPECT_EQ(out.flowType, "Subsonic");
+    EXPECT_NEAR(out.outletMach, 0.1268677, 2e-7);
+    EXPECT_NEAR(out.outletPressure, 88.52746, 2e-4);
+    EXPECT_NEAR(out.outletTemperature, 99.61255, 2e-4);
+}

@@ -128,3 +128,54 @@ TEST(TwoPhaseDrop, InvalidInputsFault)
     noTension.surfaceTension = 0;
     EXPECT_THROW(run(noTension), NumericFault);
 }
+
+// Hand-worked references: each correlation worked through in double
+// precision from its published form, step by step, for one line at a finite
+// quality. The program rounds its intermediates to singles, so the figures
+// agree to a few parts in a hundred thousand.
+
+TEST(TwoPhaseReference, FriedelAtAQualityOfOneFifth)
+{
+    // 5,000 lb/h of gas (0.5 lb/ft3, 0.012 cP) with 20,000 lb/h of water
+    // (62 lb/ft3, 1 cP, 0.07 N/m) in 100 ft of 4.026 in, horizontal:
+    // G = 78.553 lb/(ft2 s), Fr = 97.4595, We = 5539.04; Re_g = 653,418,
+    // Re_l = 31,364.1; smooth-pipe f_g = 0.0125486, f_l = 0.0232572;
+    // E = 3.3162, phi = 14.8568, so 1.10618 psi.
+    const TwoPhaseResult out = run(line(5000, 20000));
+    ASSERT_EQ(out.correlation, "Friedel");
+    EXPECT_NEAR(out.gasReynolds, 653418, 2);
+    EXPECT_NEAR(out.liquidReynolds, 31364.1, 0.1);
+    EXPECT_NEAR(out.gasFriction, 0.0125486, 2e-7);
+    EXPECT_NEAR(out.liquidFriction, 0.0232572, 2e-7);
+    EXPECT_NEAR(out.pressureDrop.value(), 1.10618, 1e-4);
+}
+
+TEST(TwoPhaseReference, ChisholmBaroczyForAViscousLiquid)
+{
+    // The same flows with a liquid of 15 cP: mu_l / mu_g = 1250 and
+    // Gsi = 383.52 kg/(m2 s) take Chisholm-Baroczy. All liquid: Re 2,613.67,
+    // f_lo = 0.0378918, 0.121308 psi per 100 ft; all gas: Re 3,267,090,
+    // f_go = 0.0165118, 6.5548 psi per 100 ft; Gamma = 7.35081, so
+    // B = 55 / Gsi^0.5 = 2.80846 and phi = 34.1384: 4.14125 psi.
+    const TwoPhaseResult out = run(line(5000, 20000, 0.012, 15));
+    ASSERT_EQ(out.correlation, "Chisholm-Baroczy");
+    EXPECT_NEAR(out.liquidFriction, 0.0378918, 2e-7);
+    EXPECT_NEAR(out.gasFriction, 0.0165118, 2e-7);
+    EXPECT_NEAR(out.pressureDrop.value(), 4.14125, 4e-4);
+}
+
+TEST(TwoPhaseReference, LockhartMartinelliForASmallViscousFlow)
+{
+    // 500 lb/h of gas with 3,000 lb/h of a 15 cP liquid: Gsi = 53.69 takes
+    // Lockhart-Martinelli. Gas alone: Re 65,341.8, f = 0.0214799,
+    // 0.00341081 psi per 100 ft; liquid alone: Re 313.641 (laminar),
+    // f = 0.204055, 0.00940705 psi per 100 ft. X = 1.66073 on the
+    // laminar-liquid, turbulent-gas rows: ln phi_l = 1.0128,
+    // ln phi_g = 1.52006; both sides give 0.071312 psi per 100 ft.
+    const TwoPhaseResult out = run(line(500, 3000, 0.012, 15));
+    ASSERT_EQ(out.correlation, "Lockhart-Martinelli");
+    EXPECT_NEAR(out.gasReynolds, 65341.8, 0.1);
+    EXPECT_NEAR(out.liquidReynolds, 313.641, 1e-3);
+    EXPECT_NEAR(out.liquidFriction, 0.204055, 2e-6);
+    EXPECT_NEAR(out.pressureDrop.value(), 0.0713121, 1e-5);
+}

@@ -95,6 +95,7 @@ TEST(FaultScope, TheInnermostRoutineNamesTheFault)
             FaultScope inner("FrictionFactor");
         }
         checked::Div(1, 0);
+        FAIL() << "a division by zero must raise a fault";
     } catch (const NumericFault& fault) {
         EXPECT_EQ(fault.where(), "TwoPhaseDrop: division by zero in a division");
     }
@@ -102,6 +103,7 @@ TEST(FaultScope, TheInnermostRoutineNamesTheFault)
         FaultScope outer("TwoPhaseDrop");
         FaultScope inner("FrictionFactor");
         checked::Log(0);
+        FAIL() << "the logarithm of zero must raise a fault";
     } catch (const NumericFault& fault) {
         EXPECT_EQ(fault.where().rfind("FrictionFactor: invalid operation", 0), 0u) << fault.where();
     }

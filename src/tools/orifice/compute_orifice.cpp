@@ -94,7 +94,9 @@ private:
             const double root =
                 Sqr(Div((rho_ + rho_) * r_.differentialPressure * 144 * kGravity, 1 - Pow(beta_, 4)));
             m_ = gas_ ? Fd_ * Y_ * Fa_ * C_ * area_ * 3600 * root : Fd_ * Fa_ * C_ * area_ * 3600 * root;
-            const double newRe = ReynoldsFromMassFlow(r_.pipeID, m_, viscosityCentipoise());
+            // The new Reynolds number is a single like the old one: two passes
+            // that give the same single end the search.
+            const Single newRe = ReynoldsFromMassFlow(r_.pipeID, m_, viscosityCentipoise());
             if (single(0.000001) > std::fabs(newRe - Re_))
                 break;
             Re_ = newRe;

@@ -255,7 +255,7 @@ Single CompressFactorModel::GetZValue(Single t, Single p, const std::function<vo
     showModal();
     if (cancelled)
         return 0.0;
-    return parseFieldNumber(txtData[5]);
+    return fieldSingleOr0(txtData[5]);
 }
 
 } // namespace kestrova

@@ -206,7 +206,7 @@ Single HeatCapRatioModel::GetHeatCapRatioValue(Single t, Single p, const std::fu
     showModal();
     if (cancelled)
         return 0.0;
-    return parseFieldNumber(txtData[5]);
+    return fieldSingleOr0(txtData[5]);
 }
 
 } // namespace kestrova

@@ -257,7 +257,7 @@ void PumpNetworkModel::CleanGrid()
         for (int c = 2; c < kGridColumns; ++c) {
             std::string& cell = grid[static_cast<size_t>(r)][static_cast<size_t>(c)];
             try {
-                if (!cell.empty() && Single(parseFieldNumber(cell)) == 0)
+                if (!cell.empty() && fieldSingle(cell) == 0)
                     cell.clear();
             } catch (const NumericFault&) {
                 // resume next: the cell stays as it is

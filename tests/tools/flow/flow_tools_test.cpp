@@ -43,6 +43,17 @@ TEST_F(FlowConversionsTest, StandardGasVolumeToMassAndBack)
     EXPECT_EQ(store.get("Settings", "FlowConversion", ""), "0");
 }
 
+TEST_F(FlowConversionsTest, TheSpecificGravityIsReadAsASingle)
+{
+    // 250.3 gpm of a liquid of SG 0.85: 0.85 as a single is 0.850000024, and
+    // the product with 125,150 gives 106,377.508 as a single where doubles
+    // give 106,377.500.
+    tool.optConversion_Click(2);
+    type(0, "0.85");
+    type(6, "250.3");
+    EXPECT_EQ(tool.txtData[7].text, "106,377.5078");
+}
+
 TEST_F(FlowConversionsTest, ActualVolumeDirectionsUseTheirOwnOffsets)
 {
     tool.optConversion_Click(4);

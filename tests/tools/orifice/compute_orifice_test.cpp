@@ -17,11 +17,16 @@ using namespace kestrova;
 namespace {
 
 struct RecordingDisplay : OrificeDisplay {
-    void showDisplay(int index, const std::string& text) override { displays[index] = text; }
+    void showDisplay(int index, const std::string& text) override
+    {
+        displays[index] = text;
+        ++shows[index];
+    }
     void refresh(int field) override { refreshed.push_back(field); }
     void showErrorLiquid(const std::string& text) override { errorLiquid = text; }
     void showErrorGas(const std::string& text) override { errorGas = text; }
     std::map<int, std::string> displays;
+    std::map<int, int> shows; // how often each display was written
     std::vector<int> refreshed;
     std::string errorLiquid = "(untouched)", errorGas = "(untouched)";
 };
@@ -237,4 +242,37 @@ TEST(ComputeOrifice, GasExpansionFactorIsLinearInTheDifferential)
     const double once = 1 - static_cast<double>(GasExpansionFactor(0.6, 5, 1.3, 50));
     const double twice = 1 - static_cast<double>(GasExpansionFactor(0.6, 10, 1.3, 50));
     EXPECT_NEAR(twice, 2 * once, 1e-6);
+}
+
+TEST(ComputeOrifice, TheFlowSearchEndsWhenTwoPassesGiveTheSameReynoldsNumber)
+{
+    // The gas flow search shows the expansion factor once a pass: the search
+    // stops after a handful of passes, as soon as the new Reynolds number is
+    // the same single as the last, not after all 201 it may take.
+    OrificeData air = airCase();
+    RecordingDisplay display;
+    ComputeOrifice(air, OrificeFluid::Gas, OrificeUnknown::Flow, 0, display); // flange taps
+    EXPECT_GE(display.shows[10], 2);
+    EXPECT_LE(display.shows[10], 10);
+    // The flow found is the fixed point: a pass from its Reynolds number
+    // gives the same Reynolds number again.
+    const Single re = ReynoldsFromMassFlow(air.pipeID, air.gasFlow, air.gasViscosity * 1000);
+    EXPECT_EQ(parseFieldNumber(display.displays[8]), std::round(static_cast<double>(re)));
+}
+
+TEST(ComputeOrifice, GasFlowAgreesWithAHandWorkedCase)
+{
+    // Air (0.5 lb/ft3, 0.018 cP, k 1.4) at 100 psia through a beta 0.5 plate
+    // in 4.026 in on flange taps, 5 psi: worked by hand in double precision
+    // with the Reader-Harris/Gallagher equation of ISO 5167-2 (L1 = L2' =
+    // 25.4 / D mm) and the expansion factor 1 - (0.41 + 0.35 beta^4) dP / (k P1):
+    // Y = 0.9845759; iterating C and the pipe Reynolds number to their fixed
+    // point gives C = 0.6034861, Re = 647,435.9 and 7,431.339 lb/h.
+    OrificeData air = airCase();
+    RecordingDisplay display;
+    ComputeOrifice(air, OrificeFluid::Gas, OrificeUnknown::Flow, 0, display);
+    EXPECT_NEAR(air.gasFlow, 7431.339, 0.05);
+    EXPECT_EQ(display.displays[10], "0.9846");
+    EXPECT_EQ(display.displays[7], "0.6035");
+    EXPECT_NEAR(parseFieldNumber(display.displays[8]), 647436, 5);
 }

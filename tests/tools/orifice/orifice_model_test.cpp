@@ -112,6 +112,33 @@ TEST_F(OrificeToolTest, ComputeChoicesSolveForTheirQuantityAndCarryOverTabs)
     EXPECT_EQ(tool.meterTap[0], 1);
 }
 
+TEST_F(OrificeToolTest, FailuresReachTheMessageBoxesAsTheRulesSay)
+{
+    // A gas case in flow mode with no pipe ID yet: the gas box is emptied and
+    // the pipe ID message stands in the liquid tab's box.
+    tool.SSTab1_Click(1);
+    for (const auto& [field, text] : std::vector<std::pair<int, std::string>>{
+             {15, "5"}, {16, "2.013"}, {17, "60"}, {18, "100"}, {19, "0.5"}, {20, "0.000018"}})
+        type(field, text);
+    tool.txtDisplay[5] = "1.4";
+    tool.txtDisplay_LostFocus(5);
+    EXPECT_EQ(tool.txtErrorGas, "");
+    EXPECT_EQ(tool.txtErrorLiquid, "Pipe ID cannot be zero");
+    type(24, "4.026");
+    EXPECT_NE(tool.txtData[14], "0.00"); // now a flow
+    EXPECT_EQ(tool.txtErrorGas, "");
+
+    // Water in flow mode with a differential pressure of 0: the second pass
+    // fails in the coefficient at Re = 0, and the box shows the last warning
+    // that pass raised on flange taps.
+    tool.SSTab1_Click(0);
+    for (const auto& [field, text] : std::vector<std::pair<int, std::string>>{
+             {1, "0"}, {2, "2.013"}, {3, "68"}, {4, "62.4"}, {5, "1"}, {9, "4.026"}})
+        type(field, text);
+    EXPECT_EQ(tool.txtErrorLiquid, "Warning:  The meter size/flow outside of ISO standard range.");
+    EXPECT_EQ(tool.txtErrorGas, "");
+}
+
 TEST_F(OrificeToolTest, ThePermanentLossHasTwoDecimalsInEveryUnit)
 {
     // Water through a half-beta plate in 4.026 in at 10 psi: a loss of about

@@ -178,6 +178,19 @@ TEST_F(MinorLossesTest, SumsOfTheTwoKMethod)
     tool.Sum();
     EXPECT_EQ(tool.txtTotalK1, "100");
     EXPECT_EQ(tool.txtTotalK2, "1.00");
+    // Three long radius 45° elbows: K2 0.15 each, a single, and each addition
+    // is stored as a single: 0.450000018, not 0.449999988 (one rounding of 0.45).
+    tool.txtQuantity = {};
+    tool.txtQuantity[1] = "3";
+    tool.Sum();
+    EXPECT_EQ(tool.K1Sum.value(), 1500.0f);
+    EXPECT_EQ(tool.K2Sum.value(), 0.15f + 0.15f + 0.15f);
+    EXPECT_NE(tool.K2Sum.value(), 0.45f);
+    tool.txtQuantity[1] = "1";
+    tool.txtQuantity[3] = "1";
+    tool.txtQuantity[6] = "1";
+    tool.Sum();
+    EXPECT_EQ(tool.K2Sum.value(), (0.15f + 0.15f) + 0.2f);
 }
 
 TEST_F(MinorLossesTest, ApplyStoresTheSlotAndCloseKeepsTheOldSums)
@@ -221,35 +234,48 @@ TEST_F(MinorLossesTest, ReducerKValuesAndTheirCancelValue)
     EXPECT_EQ(tool.txtKValue[1], "0.156");
 }
 
+namespace {
+
+// A row typed as a user types it: the angle left, then the beta left.
+void typeRow(ReducerModel& tool, int row, const char* angle, const char* beta)
+{
+    if (angle) {
+        tool.txtAngle[static_cast<size_t>(row)] = angle;
+        tool.txtAngle_LostFocus(row);
+    }
+    tool.txtBeta[static_cast<size_t>(row)] = beta;
+    tool.txtBeta_LostFocus(row);
+}
+
+} // namespace
+
 TEST(Reducers, FormulasOfTheGradualAndSuddenRows)
 {
+    // The published figures: H = 0.2618 for 30°; contraction at 30° and beta
+    // 0.5: 0.8 sin(0.19635) = 0.156; at 45°: 0.75 x 0.5 x sqrt(sin 22.5°) =
+    // 0.232; sudden: (1 - 0.25)^2 = 0.5625; enlargement at 30°:
+    // 2.6 sin(0.2618 x 0.5625) = 0.381.
     ScriptedUserInterface ui;
     ReducerModel contraction(ReducerKind::Contraction, ui);
-    contraction.txtAngle[0] = "30";
-    contraction.txtBeta[0] = "0.5";
-    contraction.ComputeRow(0);
+    typeRow(contraction, 0, "30", "0.5");
     EXPECT_EQ(contraction.txtKValue[0], "0.156");
-    contraction.txtAngle[1] = "45";
-    contraction.txtBeta[1] = "0.5";
-    contraction.ComputeRow(1);
+    typeRow(contraction, 1, "45", "0.5");
     EXPECT_EQ(contraction.txtKValue[1], "0.232");
-    contraction.txtBeta[5] = "0.5";
-    contraction.ComputeRow(5);
+    typeRow(contraction, 5, nullptr, "0.5");
     EXPECT_EQ(contraction.txtKValue[5], "0.563");
     EXPECT_EQ(contraction.txtTotalK, "0.951");
     contraction.txtAngle[2] = "30";
-    contraction.ComputeRow(2); // an angle with no beta has no K
+    contraction.txtAngle_LostFocus(2); // an angle with no beta has no K
     EXPECT_EQ(contraction.txtKValue[2], "");
 
     ReducerModel enlargement(ReducerKind::Enlargement, ui);
-    enlargement.txtAngle[0] = "30";
-    enlargement.txtBeta[0] = "0.5";
-    enlargement.ComputeRow(0);
+    typeRow(enlargement, 0, "30", "0.5");
     EXPECT_EQ(enlargement.txtKValue[0], "0.381");
-    enlargement.txtAngle[1] = "90";
-    enlargement.txtBeta[1] = "0.5";
-    enlargement.ComputeRow(1);
+    typeRow(enlargement, 1, "90", "0.5");
     EXPECT_EQ(enlargement.txtKValue[1], "0.563");
+    typeRow(enlargement, 6, nullptr, "0.5");
+    EXPECT_EQ(enlargement.txtKValue[6], "0.563");
+    EXPECT_TRUE(ui.messages.empty());
 }
 
 TEST(Reducers, ValidationMessagesAndTheEntryPoint)
