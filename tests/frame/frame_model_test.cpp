@@ -158,13 +158,17 @@ TEST_F(FrameModelTest, LocateDataBaseKeepsOnlyAFileThatPassesTheTest)
     EXPECT_EQ(ui.messages[0].title, "Locate Data Base");
     EXPECT_EQ(ui.messages[0].text, "Not a valid physical properties data base file.");
     EXPECT_EQ(frame.dataBaseLocation(), before); // the old location stays
+    // A sound SQLite file without the compound table is no properties data base either.
+    EXPECT_FALSE(frame.locateDataBase(QDir(KESTROVA_DATA_DIR).filePath("pipeastm.sqlite").toStdString()));
+    EXPECT_EQ(ui.messages.back().text, "Not a valid physical properties data base file.");
+    EXPECT_EQ(frame.dataBaseLocation(), before);
 
     // The compound data base shipped beside the program passes, and is kept.
     const std::string shipped = QDir(KESTROVA_DATA_DIR).filePath("compounds.sqlite").toStdString();
     EXPECT_TRUE(frame.locateDataBase(shipped));
     EXPECT_TRUE(frame.dataBaseFileValid());
     EXPECT_EQ(store.get("Settings", "DataBaseLocation", ""), shipped);
-    EXPECT_EQ(ui.messages.size(), 1u);
+    EXPECT_EQ(ui.messages.size(), 2u);
 }
 
 TEST_F(FrameModelTest, PrintDataSheetGoesOnlyToAToolInFront)

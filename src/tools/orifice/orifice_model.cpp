@@ -27,7 +27,7 @@ const FieldKind kPermanentLoss{"Pressure Drop", PressureToUnit, PressureFromUnit
 struct OrificeField {
     const FieldKind* kind;
     Single OrificeData::*member;
-    bool takesGlobalUnit; // the expansion lists keep their own choice
+    bool expansion; // the expansion lists follow the temperature global
     Quantity quantity;
 };
 
@@ -43,22 +43,23 @@ std::array<OrificeField, OrificeModel::kFields> makeFieldTable()
     for (int tab = 0; tab < 2; ++tab) {
         const bool gas = tab == 1;
         auto row = table.begin() + (gas ? 14 : 0);
-        *row++ = {&k::flow, gas ? &O::gasFlow : &O::liquidFlow, true, Q::Flow};
-        *row++ = {&kPressureDrop, &O::differentialPressure, true, Q::PressureDrop};
-        *row++ = {&k::diameter, &O::orificeDiameter, true, Q::Diameter};
-        *row++ = {&k::temperature, &O::temperature, true, Q::Temperature};
+        *row++ = {&k::flow, gas ? &O::gasFlow : &O::liquidFlow, false, Q::Flow};
+        *row++ = {&kPressureDrop, &O::differentialPressure, false, Q::PressureDrop};
+        *row++ = {&k::diameter, &O::orificeDiameter, false, Q::Diameter};
+        *row++ = {&k::temperature, &O::temperature, false, Q::Temperature};
         if (gas)
-            *row++ = {&k::pressure, &O::inletPressure, true, Q::Pressure};
-        *row++ = {gas ? &kGasDensity : &k::density, gas ? &O::gasDensity : &O::liquidDensity, true, Q::Density};
-        *row++ = {&k::viscosity, gas ? &O::gasViscosity : &O::liquidViscosity, true, Q::Viscosity};
-        *row++ = {&k::temperature, &O::referenceTemperature, true, Q::Temperature};
-        *row++ = {&k::diameter, &O::holeDiameter, true, Q::Diameter};
-        *row++ = {&kExpansion, &O::elementExpansion, false, Q::Temperature};
-        *row++ = {&k::diameter, &O::pipeID, true, Q::Diameter};
-        *row++ = {&kExpansion, &O::pipeExpansion, false, Q::Temperature};
-        *row++ = {&k::velocity, &O::velocityPipe, true, Q::Velocity};
-        *row++ = {&k::velocity, &O::velocityOrifice, true, Q::Velocity};
-        *row++ = {&kPermanentLoss, &O::permanentLoss, true, Q::PressureDrop};
+            *row++ = {&k::pressure, &O::inletPressure, false, Q::Pressure};
+        *row++ = {gas ? &kGasDensity : &k::density, gas ? &O::gasDensity : &O::liquidDensity, false, Q::Density};
+        *row++ = {&k::viscosity, gas ? &O::gasViscosity : &O::liquidViscosity, false, Q::Viscosity};
+        *row++ = {&k::temperature, &O::referenceTemperature, false, Q::Temperature};
+        *row++ = {&k::diameter, &O::holeDiameter, false, Q::Diameter};
+        *row++ = {&kExpansion, &O::elementExpansion, true, Q::Temperature};
+        *row++ = {&k::diameter, &O::pipeID, false, Q::Diameter};
+        *row++ = {&kExpansion, &O::pipeExpansion, true, Q::Temperature};
+        *row++ = {&k::velocity, &O::velocityPipe, false, Q::Velocity};
+        *row++ = {&k::velocity, &O::velocityOrifice, false, Q::Velocity};
+        // The permanent loss takes the pressure global, though its list is the pressure drop's.
+        *row++ = {&kPermanentLoss, &O::permanentLoss, false, Q::Pressure};
     }
     return table;
 }
@@ -131,10 +132,13 @@ void OrificeModel::selectDefaultMaterials()
 void OrificeModel::Form_Activate()
 {
     ChangeNotice notice(*this);
+    // The expansion lists have no global of their own: "1/°F" with the
+    // temperature in °F or °R, "1/°C" with °C or K.
+    const UnitIndex temperature = globalUnits()[Quantity::Temperature];
+    const UnitIndex expansion = (temperature == 0 || temperature == 2) ? 0 : 1;
     for (int i = 0; i < kFields; ++i) {
         const OrificeField& f = kFieldTable[static_cast<size_t>(i)];
-        if (f.takesGlobalUnit)
-            cboUnits[static_cast<size_t>(i)] = globalUnits()[f.quantity];
+        cboUnits[static_cast<size_t>(i)] = f.expansion ? expansion : globalUnits()[f.quantity];
         showField(i);
     }
     ui_.setToolbarButtonEnabled("Print", true);

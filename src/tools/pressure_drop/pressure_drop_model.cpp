@@ -240,6 +240,10 @@ void PressureDropModel::optCrossSection_Click(int index)
     selectCrossSection(index);
     setDirty();
     CalculateResults();
+    // The diameter fields show the diameter the results now use: after a
+    // rectangle or an annulus, the hydraulic diameter it left.
+    for (int field : {5, 15, 35})
+        showField(field);
 }
 
 void PressureDropModel::selectCrossSection(int index)
@@ -436,7 +440,9 @@ void PressureDropModel::cmdProperties_Click(int index)
         }
         record.LiquidDensity = props.liquidDensity;
         record.LiquidViscosity = props.liquidViscosity;
-        record.SurfaceTension = props.surfaceTension;
+        // The properties tool hands the surface tension over in the first unit
+        // of its list, dyn/cm; the record holds N/m.
+        record.SurfaceTension = SurfaceTensionFromUnit(props.surfaceTension, 0);
         for (int field : {1, 2, 27, 26, 29})
             showField(field);
     } else {

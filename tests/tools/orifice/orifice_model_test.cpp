@@ -59,6 +59,26 @@ TEST_F(OrificeToolTest, LoadStartsWithItsMaterialsAndReferenceTemperature)
     EXPECT_EQ(tool.txtErrorGas, "");
 }
 
+TEST_F(OrificeToolTest, ExpansionListsFollowTheTemperatureGlobal)
+{
+    // "1/°F" with °F or °R, "1/°C" with °C or K; the permanent loss takes the
+    // pressure global, the differential pressure its own.
+    for (const auto& [temperature, expansion] : {std::pair{0, 0}, {1, 1}, {2, 0}, {3, 1}}) {
+        globalUnits()[Quantity::Temperature] = static_cast<UnitIndex>(temperature);
+        globalUnits()[Quantity::Pressure] = 5;
+        globalUnits()[Quantity::PressureDrop] = 2;
+        tool.Form_Activate();
+        for (int field : {8, 10, 23, 25})
+            EXPECT_EQ(tool.cboUnits[static_cast<size_t>(field)], expansion) << temperature;
+        EXPECT_EQ(tool.cboUnits[13], 5);
+        EXPECT_EQ(tool.cboUnits[28], 5);
+        EXPECT_EQ(tool.cboUnits[1], 2);
+    }
+    globalUnits()[Quantity::Temperature] = 1;
+    tool.Form_Activate();
+    EXPECT_EQ(data(8), "1.69E-05"); // stainless steel, 9.4e-6 per °F
+}
+
 TEST_F(OrificeToolTest, ALiquidCaseTypedInMetricUnits)
 {
     type(3, "68");      // at the reference temperature: no thermal correction

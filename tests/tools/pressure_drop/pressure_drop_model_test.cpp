@@ -5,6 +5,9 @@
 #include "numeric/field_text.h"
 #include "tools/piping/pipe_selection.h"
 #include "tools/properties/phys_props.h"
+#include "tools/properties/physical_properties_model.h"
+
+#include <QDir>
 
 #include <cmath>
 
@@ -199,6 +202,34 @@ TEST_F(PressureDropTest, ASquareDuctUsesItsSideAsDiameter)
     tool.optCrossSection_Click(0);
     tool.SSTab1_Click(0);
     EXPECT_EQ(data(5), "6.0000");
+}
+
+TEST_F(PressureDropTest, TheDiameterFieldsShowWhatTheResultsUseAfterASectionChange)
+{
+    // Circular 6.065 in, then a 1 ft by 0.5 ft rectangle, then circular
+    // again: the rectangle's hydraulic diameter, 2 x 12 x 6 / 18 = 8 in, is
+    // the diameter used, and every tab's diameter field shows it at once.
+    enterWaterLine();
+    tool.optCrossSection_Click(1);
+    type(3, "1");   // ft
+    type(4, "0.5"); // ft
+    tool.optCrossSection_Click(0);
+    EXPECT_EQ(tool.record.Diameter, 8);
+    for (int field : {5, 15, 35})
+        EXPECT_EQ(data(field), "8.0000") << "txtData(" << field << ")";
+    const std::string velocity = data(9);
+    // The results are those of a circular 8 in line typed by hand.
+    type(5, "8");
+    EXPECT_EQ(data(9), velocity);
+
+    // An annulus whose inner pipe is wider than the outer one leaves a
+    // negative diameter; back on circular the field shows it.
+    tool.optCrossSection_Click(2);
+    type(3, "1");   // OD of the inner pipe, ft
+    type(4, "0.5"); // ID of the outer pipe, ft
+    tool.optCrossSection_Click(0);
+    EXPECT_EQ(tool.record.Diameter, -6);
+    EXPECT_EQ(data(5), "-6.0000");
 }
 
 TEST_F(PressureDropTest, GasLineAdiabaticAndIsothermal)
@@ -411,4 +442,63 @@ TEST_F(PressureDropTest, TabChangeMovesTheTabOrder)
     tool.SSTab1_Click(1);
     EXPECT_TRUE(tool.txtDisplay[4].tabStop);
     EXPECT_TRUE(tool.txtData[43].tabStop);
+}
+
+TEST_F(PressureDropTest, WaterFromThePropertiesToolGivesTheSameTwoPhaseLineAsWaterTyped)
+{
+    // Water at 77 °F fetched from the compound data base for the two-phase
+    // tab: the surface tension arrives in the record's N/m and shows 71.79
+    // dyn/cm, as in the properties tool.
+    globalUnits() = GlobalUnits{};
+    PhysicalPropertiesModel properties(ui, readCompounds(QDir(KESTROVA_DATA_DIR).filePath("compounds.sqlite")));
+    properties.Form_Activate();
+    for (size_t i = 0; i < properties.compounds().size(); ++i)
+        if (properties.compounds()[i].name == "Water")
+            properties.dbcComp_Click(static_cast<int>(i));
+    properties.GetPhysicalProperties(FluidKind::Liquid, 77, [&] { properties.cmdSelect_Click(); });
+    ASSERT_EQ(physProps().liquidName, "Water");
+    properties.setUnit(5, 0);
+    EXPECT_EQ(properties.txtPhysProp[5], "71.7929"); // dyn/cm in the properties tool
+
+    tool.SSTab1_Click(2);
+    ui.propertiesApplied = {true};
+    tool.cmdProperties_Click(2);
+    tool.setUnit(29, 0);
+    EXPECT_EQ(data(29), "71.79");
+    EXPECT_NEAR(tool.record.SurfaceTension, 0.0717929, 1e-7);
+    type(28, "40000");
+    type(30, "2000");
+    type(31, "0.25");
+    tool.setUnit(32, 0);
+    type(32, "0.018");
+    type(35, "4.026");
+    type(34, "0.00015");
+    type(33, "200");
+    const std::string fetchedRegime = display(17);
+    const Single fetchedDrop = tool.record.PressureDrop;
+    EXPECT_EQ(fetchedRegime, "Annular");
+
+    // The same water typed by hand, as the fields show it.
+    const std::string density = data(27), viscosity = data(26), tension = data(29);
+    ScriptedUserInterface typedUi;
+    PressureDropModel typed(typedUi);
+    typed.Form_Load();
+    typed.Form_Activate();
+    typed.SSTab1_Click(2);
+    typed.setUnit(29, 0);
+    for (const auto& [field, text] : std::vector<std::pair<int, std::string>>{
+             {27, density}, {26, viscosity}, {29, tension}}) {
+        typed.txtData[static_cast<size_t>(field)].text = text;
+        typed.txtData_LostFocus(field);
+    }
+    for (const auto& [field, text] : std::vector<std::pair<int, std::string>>{
+             {28, "40000"}, {30, "2000"}, {31, "0.25"}, {35, "4.026"}, {34, "0.00015"}, {33, "200"}}) {
+        typed.txtData[static_cast<size_t>(field)].text = text;
+        typed.txtData_LostFocus(field);
+    }
+    typed.setUnit(32, 0);
+    typed.txtData[32].text = "0.018";
+    typed.txtData_LostFocus(32);
+    EXPECT_EQ(typed.txtDisplay[17].text, fetchedRegime);
+    EXPECT_NEAR(typed.record.PressureDrop, fetchedDrop, 1e-4 * fetchedDrop);
 }
