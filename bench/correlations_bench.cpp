@@ -2,8 +2,8 @@
 
 #include "calc/calc_protocol.h"
 #include "hydraulics/basTransportFunctions.h"
-#include "tools/orifice/basOrificeFunctions.h"
-#include "tools/properties/property_correlation.h"
+#include "tools/orifice/calc/basOrificeFunctions.h"
+#include "tools/properties/calc/property_correlation.h"
 
 #include <benchmark/benchmark.h>
 

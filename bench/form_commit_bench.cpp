@@ -2,13 +2,13 @@
 // typed into a field, the field left, the tool's calculation, and the
 // window's refresh from its model, offscreen.
 
-#include "frame/scripted_user_interface.h"
-#include "frame/global_units.h"
-#include "tools/orifice/frmOrificePlates.h"
-#include "tools/orifice/orifice_model.h"
-#include "tools/piping/minor_loss_store.h"
-#include "tools/pressure_drop/frmPressureDrop.h"
-#include "tools/pressure_drop/pressure_drop_model.h"
+#include "forms/model/scripted_user_interface.h"
+#include "forms/store/global_units.h"
+#include "tools/orifice/ui/frmOrificePlates.h"
+#include "tools/orifice/model/orifice_model.h"
+#include "tools/piping/model/minor_loss_store.h"
+#include "tools/pressure_drop/ui/frmPressureDrop.h"
+#include "tools/pressure_drop/model/pressure_drop_model.h"
 
 #include <QApplication>
 #include <QLineEdit>

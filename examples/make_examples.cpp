@@ -2,11 +2,11 @@
 // and orifice tools as a user would: typing texts, choosing options, and saving.
 // Usage: kestrova-make-examples OUTPUT_FOLDER
 
-#include "frame/global_units.h"
-#include "frame/scripted_user_interface.h"
-#include "tools/orifice/orifice_model.h"
-#include "tools/piping/minor_loss_store.h"
-#include "tools/pressure_drop/pressure_drop_model.h"
+#include "forms/store/global_units.h"
+#include "forms/model/scripted_user_interface.h"
+#include "tools/orifice/model/orifice_model.h"
+#include "tools/piping/model/minor_loss_store.h"
+#include "tools/pressure_drop/model/pressure_drop_model.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -4,11 +4,11 @@
 
 #include "fuzz_support.h"
 
-#include "frame/global_units.h"
-#include "frame/scripted_user_interface.h"
-#include "tools/properties/compound_data_base.h"
-#include "tools/properties/phys_props.h"
-#include "tools/properties/physical_properties_model.h"
+#include "forms/store/global_units.h"
+#include "forms/model/scripted_user_interface.h"
+#include "tools/properties/model/compound_data_base.h"
+#include "tools/properties/model/phys_props.h"
+#include "tools/properties/model/physical_properties_model.h"
 
 #include <stdexcept>
 

@@ -4,8 +4,8 @@
 #include "fuzz_support.h"
 
 #include "calc/tool_calls.h"
-#include "frame/scripted_user_interface.h"
-#include "tools/orifice/orifice_model.h"
+#include "forms/model/scripted_user_interface.h"
+#include "tools/orifice/model/orifice_model.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {

@@ -4,15 +4,15 @@
 
 #include "fuzz_support.h"
 
-#include "frame/company_info_model.h"
-#include "frame/frame_model.h"
-#include "frame/global_units.h"
-#include "frame/scripted_user_interface.h"
-#include "frame/settings_store.h"
-#include "tools/flow/flow_conversions_model.h"
-#include "tools/piping/pipe_model.h"
-#include "tools/piping/roughness_model.h"
-#include "tools/properties/compress_factor_model.h"
+#include "frame/model/company_info_model.h"
+#include "frame/model/frame_model.h"
+#include "forms/store/global_units.h"
+#include "forms/model/scripted_user_interface.h"
+#include "forms/store/settings_store.h"
+#include "tools/flow/model/flow_conversions_model.h"
+#include "tools/piping/model/pipe_model.h"
+#include "tools/piping/model/roughness_model.h"
+#include "tools/properties/model/compress_factor_model.h"
 
 #include <cmath>
 #include <cstdlib>

@@ -2,7 +2,7 @@
 // the project's examples and test data.
 // Usage: kestrova-fuzz-seeds SOURCE_FOLDER PROGRAM_FOLDER OUTPUT_FOLDER
 
-#include "frame/sqlite_session.h"
+#include "forms/store/sqlite_session.h"
 
 #include <QCoreApplication>
 #include <QDir>

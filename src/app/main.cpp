@@ -1,10 +1,10 @@
 // Kestrova: the start of the desktop program. One instance per user; the
 // splash while the frame loads; the disclaimer while its flag is set.
 
-#include "frame/auxiliary_dialogs.h"
-#include "frame/frmMain.h"
-#include "frame/settings_store.h"
-#include "platform/exception_barrier.h"
+#include "frame/ui/auxiliary_dialogs.h"
+#include "frame/ui/frmMain.h"
+#include "forms/store/settings_store.h"
+#include "forms/ui/exception_barrier.h"
 #include "platform/single_instance.h"
 
 #include <QApplication>

@@ -2,12 +2,12 @@
 
 #include "calc/tool_calls.h"
 #include "calc/tool_report.h"
-#include "frame/scripted_user_interface.h"
+#include "forms/model/scripted_user_interface.h"
 #include "hydraulics/basTransportFunctions.h"
 #include "numeric/display_mask.h"
 #include "numeric/field_text.h"
-#include "tools/orifice/basOrificeFunctions.h"
-#include "tools/properties/property_correlation.h"
+#include "tools/orifice/calc/basOrificeFunctions.h"
+#include "tools/properties/calc/property_correlation.h"
 #include "units/basConversions.h"
 
 namespace kestrova::calc {

@@ -3,10 +3,11 @@
 #include "calc/json_result.h"
 #include "calc/tool_calls.h"
 #include "calc/tool_report.h"
-#include "frame/project_file.h"
-#include "frame/scripted_user_interface.h"
-#include "tools/orifice/orifice_model.h"
-#include "tools/pressure_drop/pressure_drop_model.h"
+#include "forms/model/document_file.h"
+#include "forms/store/project_file.h"
+#include "forms/model/scripted_user_interface.h"
+#include "tools/orifice/model/orifice_model.h"
+#include "tools/pressure_drop/model/pressure_drop_model.h"
 
 #include <QFileInfo>
 

@@ -1,9 +1,9 @@
 #include "calc/tool_report.h"
 
-#include "frame/scripted_user_interface.h"
-#include "tools/orifice/orifice_model.h"
-#include "tools/pump_network/pump_network_model.h"
-#include "tools/pressure_drop/pressure_drop_model.h"
+#include "forms/model/scripted_user_interface.h"
+#include "tools/orifice/model/orifice_model.h"
+#include "tools/pump_network/model/pump_network_model.h"
+#include "tools/pressure_drop/model/pressure_drop_model.h"
 
 namespace kestrova::calc {
 

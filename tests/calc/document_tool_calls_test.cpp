@@ -3,7 +3,7 @@
 // clear errors for arguments the tools cannot take.
 
 #include "calc/calc_protocol.h"
-#include "frame/global_units.h"
+#include "forms/store/global_units.h"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>

@@ -1,9 +1,9 @@
 // Data sheets of the pressure drop tool: the staged row is what the screen
 // shows, the report finds it, and the staging table is empty afterwards.
 
-#include "datasheets/data_sheet.h"
-#include "frame/settings_store.h"
-#include "frame/sqlite_session.h"
+#include "datasheets/model/data_sheet.h"
+#include "forms/store/settings_store.h"
+#include "forms/store/sqlite_session.h"
 #include "tools/pressure_drop/pressure_drop_fixture.h"
 
 #include <QDir>

@@ -1,8 +1,8 @@
-#include "frame/document_tool.h"
-#include "frame/frame_model.h"
-#include "frame/scripted_user_interface.h"
-#include "frame/settings_store.h"
-#include "frame/unit_options_model.h"
+#include "forms/model/document_tool.h"
+#include "frame/model/frame_model.h"
+#include "forms/model/scripted_user_interface.h"
+#include "forms/store/settings_store.h"
+#include "frame/model/unit_options_model.h"
 
 #include <QDir>
 #include <QFile>

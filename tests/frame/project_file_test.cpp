@@ -1,8 +1,9 @@
 // The record layer of the project files: little-endian numbers, variant
 // strings in Windows-1252, damaged files reported, safe writing.
 
-#include "frame/project_file.h"
-#include "frame/scripted_user_interface.h"
+#include "forms/model/document_file.h"
+#include "forms/store/project_file.h"
+#include "forms/model/scripted_user_interface.h"
 
 #include <QDir>
 #include <QFile>

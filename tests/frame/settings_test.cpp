@@ -1,10 +1,10 @@
-#include "frame/company_info_model.h"
-#include "frame/frame_model.h"
-#include "frame/global_units.h"
-#include "frame/recent_files.h"
-#include "frame/scripted_user_interface.h"
-#include "frame/settings_store.h"
-#include "tools/piping/roughness_model.h"
+#include "frame/model/company_info_model.h"
+#include "frame/model/frame_model.h"
+#include "forms/store/global_units.h"
+#include "frame/model/recent_files.h"
+#include "forms/model/scripted_user_interface.h"
+#include "forms/store/settings_store.h"
+#include "tools/piping/model/roughness_model.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,12 +1,12 @@
 // Fields with unit lists: every unit of every list has a mask in every tool,
 // conversions go both ways, and numbers no single can hold are refused.
 
-#include "frame/field_kinds.h"
-#include "frame/global_units.h"
-#include "frame/scripted_user_interface.h"
-#include "frame/unit_field.h"
-#include "tools/orifice/orifice_model.h"
-#include "tools/pump_network/pump_network_model.h"
+#include "units/field_kinds.h"
+#include "forms/store/global_units.h"
+#include "forms/model/scripted_user_interface.h"
+#include "units/unit_field.h"
+#include "tools/orifice/model/orifice_model.h"
+#include "tools/pump_network/model/pump_network_model.h"
 #include "units/basLoadUnits.h"
 
 #include <gtest/gtest.h>

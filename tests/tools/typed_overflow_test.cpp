@@ -2,19 +2,19 @@
 // left as a user leaves them: nothing is thrown out of a tool, nothing shows
 // "nan" or "inf", and a unit field shows the 0 it took in place of the number.
 
-#include "frame/global_units.h"
-#include "frame/scripted_user_interface.h"
-#include "tools/flow/flow_conversions_model.h"
-#include "tools/flow/gas_density_model.h"
-#include "tools/orifice/orifice_model.h"
-#include "tools/piping/minor_loss_store.h"
-#include "tools/piping/minor_losses_model.h"
-#include "tools/piping/reducer_model.h"
-#include "tools/piping/roughness_model.h"
-#include "tools/pressure_drop/pressure_drop_model.h"
-#include "tools/properties/compress_factor_model.h"
-#include "tools/properties/heat_cap_ratio_model.h"
-#include "tools/pump_network/pump_network_model.h"
+#include "forms/store/global_units.h"
+#include "forms/model/scripted_user_interface.h"
+#include "tools/flow/model/flow_conversions_model.h"
+#include "tools/flow/model/gas_density_model.h"
+#include "tools/orifice/model/orifice_model.h"
+#include "tools/piping/model/minor_loss_store.h"
+#include "tools/piping/model/minor_losses_model.h"
+#include "tools/piping/model/reducer_model.h"
+#include "tools/piping/model/roughness_model.h"
+#include "tools/pressure_drop/model/pressure_drop_model.h"
+#include "tools/properties/model/compress_factor_model.h"
+#include "tools/properties/model/heat_cap_ratio_model.h"
+#include "tools/pump_network/model/pump_network_model.h"
 
 #include <gtest/gtest.h>
 

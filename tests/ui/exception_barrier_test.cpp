@@ -2,12 +2,12 @@
 // called it: a click, a key, an event of the application. The user is told,
 // and the window and its case stay as they were.
 
-#include "frame/global_units.h"
-#include "frame/scripted_user_interface.h"
-#include "platform/exception_barrier.h"
-#include "tools/piping/minor_loss_store.h"
-#include "tools/pressure_drop/frmPressureDrop.h"
-#include "tools/pressure_drop/pressure_drop_model.h"
+#include "forms/store/global_units.h"
+#include "forms/model/scripted_user_interface.h"
+#include "forms/ui/exception_barrier.h"
+#include "tools/piping/model/minor_loss_store.h"
+#include "tools/pressure_drop/ui/frmPressureDrop.h"
+#include "tools/pressure_drop/model/pressure_drop_model.h"
 
 #include <QLineEdit>
 #include <QPushButton>

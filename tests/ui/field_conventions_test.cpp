@@ -2,16 +2,16 @@
 // on entering, status texts, Enter as Tab, commit on leaving) and the
 // dialogs' own small behaviours: activation on showing, the fitting sketch.
 
-#include "frame/field_conventions.h"
-#include "frame/global_units.h"
-#include "frame/scripted_user_interface.h"
-#include "tools/orifice/frmOrificePlates.h"
-#include "tools/orifice/orifice_model.h"
-#include "tools/piping/minor_loss_store.h"
-#include "tools/piping/minor_losses_model.h"
-#include "tools/piping/piping_dialogs.h"
-#include "tools/properties/compress_factor_model.h"
-#include "tools/properties/property_dialogs.h"
+#include "forms/ui/field_conventions.h"
+#include "forms/store/global_units.h"
+#include "forms/model/scripted_user_interface.h"
+#include "tools/orifice/ui/frmOrificePlates.h"
+#include "tools/orifice/model/orifice_model.h"
+#include "tools/piping/model/minor_loss_store.h"
+#include "tools/piping/model/minor_losses_model.h"
+#include "tools/piping/ui/piping_dialogs.h"
+#include "tools/properties/model/compress_factor_model.h"
+#include "tools/properties/ui/property_dialogs.h"
 
 #include <QComboBox>
 #include <QKeyEvent>

@@ -1,7 +1,7 @@
-#include "frame/scripted_user_interface.h"
-#include "frame/settings_store.h"
-#include "tools/flow/flow_conversions_model.h"
-#include "tools/flow/gas_density_model.h"
+#include "forms/model/scripted_user_interface.h"
+#include "forms/store/settings_store.h"
+#include "tools/flow/model/flow_conversions_model.h"
+#include "tools/flow/model/gas_density_model.h"
 
 #include <QTemporaryDir>
 

@@ -5,7 +5,7 @@
 #include "hydraulics/basTransportFunctions.h"
 #include "numeric/display_mask.h"
 #include "numeric/field_text.h"
-#include "tools/orifice/compute_orifice.h"
+#include "tools/orifice/calc/compute_orifice.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 #include "numeric/numeric_fault.h"
-#include "tools/orifice/basOrificeFunctions.h"
+#include "tools/orifice/calc/basOrificeFunctions.h"
 
 #include <gtest/gtest.h>
 

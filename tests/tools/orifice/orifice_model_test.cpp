@@ -1,15 +1,15 @@
 // The orifice tool driven as a user would: texts typed in chosen units, the
 // Compute and material choices, and the fields both tabs share.
 
-#include "datasheets/data_sheet.h"
-#include "frame/global_units.h"
-#include "frame/project_file.h"
+#include "datasheets/model/data_sheet.h"
+#include "forms/store/global_units.h"
+#include "forms/store/project_file.h"
 #include "frame/reopen.h"
-#include "frame/settings_store.h"
-#include "frame/scripted_user_interface.h"
+#include "forms/store/settings_store.h"
+#include "forms/model/scripted_user_interface.h"
 #include "numeric/display_mask.h"
-#include "tools/orifice/orifice_model.h"
-#include "tools/properties/phys_props.h"
+#include "tools/orifice/model/orifice_model.h"
+#include "tools/properties/model/phys_props.h"
 
 #include <gtest/gtest.h>
 

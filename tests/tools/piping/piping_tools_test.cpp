@@ -1,11 +1,11 @@
-#include "frame/scripted_user_interface.h"
-#include "frame/settings_store.h"
-#include "tools/piping/minor_loss_store.h"
-#include "tools/piping/minor_losses_model.h"
-#include "tools/piping/pipe_model.h"
-#include "tools/piping/pipe_selection.h"
-#include "tools/piping/reducer_model.h"
-#include "tools/piping/roughness_model.h"
+#include "forms/model/scripted_user_interface.h"
+#include "forms/store/settings_store.h"
+#include "tools/piping/model/minor_loss_store.h"
+#include "tools/piping/model/minor_losses_model.h"
+#include "tools/piping/model/pipe_model.h"
+#include "tools/piping/model/pipe_selection.h"
+#include "tools/piping/model/reducer_model.h"
+#include "tools/piping/model/roughness_model.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,9 +1,9 @@
 #include "tools/pressure_drop/pressure_drop_fixture.h"
 #include "frame/reopen.h"
 
-#include "frame/frame_model.h"
-#include "frame/project_file.h"
-#include "frame/settings_store.h"
+#include "frame/model/frame_model.h"
+#include "forms/store/project_file.h"
+#include "forms/store/settings_store.h"
 
 #include <QFile>
 #include <QTemporaryDir>

@@ -2,10 +2,10 @@
 // A pressure drop tool loaded and activated with the default global units,
 // driven as a user would: type a text in a field and leave it.
 
-#include "frame/global_units.h"
-#include "frame/scripted_user_interface.h"
-#include "tools/piping/minor_loss_store.h"
-#include "tools/pressure_drop/pressure_drop_model.h"
+#include "forms/store/global_units.h"
+#include "forms/model/scripted_user_interface.h"
+#include "tools/piping/model/minor_loss_store.h"
+#include "tools/pressure_drop/model/pressure_drop_model.h"
 
 #include <gtest/gtest.h>
 

@@ -3,9 +3,9 @@
 #include "hydraulics/basTransportFunctions.h"
 #include "numeric/display_mask.h"
 #include "numeric/field_text.h"
-#include "tools/piping/pipe_selection.h"
-#include "tools/properties/phys_props.h"
-#include "tools/properties/physical_properties_model.h"
+#include "tools/piping/model/pipe_selection.h"
+#include "tools/properties/model/phys_props.h"
+#include "tools/properties/model/physical_properties_model.h"
 
 #include <QDir>
 

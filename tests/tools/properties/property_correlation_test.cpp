@@ -1,5 +1,5 @@
 #include "numeric/numeric_fault.h"
-#include "tools/properties/property_correlation.h"
+#include "tools/properties/calc/property_correlation.h"
 
 #include <gtest/gtest.h>
 

@@ -1,12 +1,13 @@
-#include "frame/global_units.h"
-#include "frame/scripted_user_interface.h"
-#include "frame/settings_store.h"
-#include "frame/sqlite_session.h"
+#include "forms/store/global_units.h"
+#include "forms/model/scripted_user_interface.h"
+#include "forms/store/settings_store.h"
+#include "forms/store/sqlite_session.h"
 #include "numeric/numeric_fault.h"
-#include "tools/properties/compress_factor_model.h"
-#include "tools/properties/heat_cap_ratio_model.h"
-#include "tools/properties/phys_props.h"
-#include "tools/properties/physical_properties_model.h"
+#include "tools/properties/calc/equations_of_state.h"
+#include "tools/properties/model/compress_factor_model.h"
+#include "tools/properties/model/heat_cap_ratio_model.h"
+#include "tools/properties/model/phys_props.h"
+#include "tools/properties/model/physical_properties_model.h"
 
 #include <QDir>
 #include <QFile>

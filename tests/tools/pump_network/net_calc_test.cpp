@@ -3,7 +3,7 @@
 
 #include "hydraulics/basTransportFunctions.h"
 #include "numeric/display_mask.h"
-#include "tools/pump_network/net_calc.h"
+#include "tools/pump_network/calc/net_calc.h"
 
 #include <gtest/gtest.h>
 

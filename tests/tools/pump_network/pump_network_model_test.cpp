@@ -1,10 +1,10 @@
 // The pump network tool driven as a user would: fields typed in their units,
 // the summary grid with its own unit lists, reset.
 
-#include "frame/global_units.h"
-#include "frame/scripted_user_interface.h"
-#include "tools/piping/minor_loss_store.h"
-#include "tools/pump_network/pump_network_model.h"
+#include "forms/store/global_units.h"
+#include "forms/model/scripted_user_interface.h"
+#include "tools/piping/model/minor_loss_store.h"
+#include "tools/pump_network/model/pump_network_model.h"
 
 #include <gtest/gtest.h>
 

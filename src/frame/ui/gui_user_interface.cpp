@@ -1,0 +1,309 @@
+#include "frame/ui/gui_user_interface.h"
+
+#include "datasheets/model/data_sheet.h"
+#include "frame/ui/frmMain.h"
+#include "tools/flow/ui/flow_dialogs.h"
+#include "tools/piping/model/minor_loss_store.h"
+#include "tools/piping/ui/piping_dialogs.h"
+#include "tools/properties/model/phys_props.h"
+#include "tools/properties/ui/property_dialogs.h"
+
+#include <QCoreApplication>
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPrintPreviewDialog>
+#include <QTextDocument>
+
+namespace kestrova {
+
+namespace {
+
+QMessageBox::Icon boxIcon(MessageIcon icon)
+{
+    switch (icon) {
+    case MessageIcon::Warning: return QMessageBox::Warning;
+    case MessageIcon::Stop: return QMessageBox::Critical;
+    case MessageIcon::Information: return QMessageBox::Information;
+    case MessageIcon::Question: return QMessageBox::Question;
+    }
+    return QMessageBox::NoIcon;
+}
+
+QMessageBox::StandardButton boxButton(MessageAnswer answer)
+{
+    switch (answer) {
+    case MessageAnswer::Ok: return QMessageBox::Ok;
+    case MessageAnswer::Cancel: return QMessageBox::Cancel;
+    case MessageAnswer::Yes: return QMessageBox::Yes;
+    case MessageAnswer::No: return QMessageBox::No;
+    }
+    return QMessageBox::Ok;
+}
+
+QMessageBox::StandardButtons boxButtons(MessageButtons buttons)
+{
+    switch (buttons) {
+    case MessageButtons::Ok: return QMessageBox::Ok;
+    case MessageButtons::OkCancel: return QMessageBox::Ok | QMessageBox::Cancel;
+    case MessageButtons::YesNo: return QMessageBox::Yes | QMessageBox::No;
+    case MessageButtons::YesNoCancel: return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    }
+    return QMessageBox::Ok;
+}
+
+} // namespace
+
+MessageAnswer GuiUserInterface::ask(const std::string& title, const std::string& text, MessageIcon icon,
+                                    MessageButtons buttons, MessageAnswer defaultAnswer)
+{
+    const bool wasBusy = busy_;
+    if (wasBusy)
+        setBusyPointer(false);
+    // Lines joined by carriage returns alone break as lines on screen too.
+    const QString shown = QString::fromStdString(text).replace("\r\n", "\n").replace('\r', '\n');
+    QMessageBox box(boxIcon(icon), QString::fromStdString(title), shown, boxButtons(buttons), &frame_);
+    box.setDefaultButton(boxButton(defaultAnswer));
+    const int chosen = box.exec();
+    if (wasBusy)
+        setBusyPointer(true);
+    switch (chosen) {
+    case QMessageBox::Cancel: return MessageAnswer::Cancel;
+    case QMessageBox::Yes: return MessageAnswer::Yes;
+    case QMessageBox::No: return MessageAnswer::No;
+    case QMessageBox::Ok: return MessageAnswer::Ok;
+    default: return buttons == MessageButtons::Ok ? MessageAnswer::Ok : MessageAnswer::Cancel;
+    }
+}
+
+void GuiUserInterface::beep()
+{
+    QApplication::beep();
+}
+
+void GuiUserInterface::setStatusText(const std::string& text)
+{
+    frame_.setStatusText(QString::fromStdString(text));
+}
+
+void GuiUserInterface::setBusyPointer(bool busy)
+{
+    if (busy == busy_)
+        return;
+    busy_ = busy;
+    if (busy)
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    else
+        QApplication::restoreOverrideCursor();
+}
+
+void GuiUserInterface::setToolbarButtonEnabled(const std::string& key, bool enabled)
+{
+    frame_.setToolbarButtonEnabled(key, enabled);
+}
+
+bool GuiUserInterface::runSaveAs()
+{
+    return frame_.mnuFileSaveAs_Click();
+}
+
+void GuiUserInterface::toolNotAvailable(const std::string& tool)
+{
+    ask("Kestrova", "The " + tool + " tool is not available in this version of Kestrova.", MessageIcon::Information,
+        MessageButtons::Ok, MessageAnswer::Ok);
+}
+
+namespace {
+
+QString programFolder()
+{
+    return QCoreApplication::applicationDirPath();
+}
+
+const char* kNoDataBase = "The physical properties data base cannot be found. Use File, Locate Data Base to choose it.";
+
+} // namespace
+
+Single GuiUserInterface::SelectPipeID(const std::string& selector)
+{
+    PipeModel model(*this, &frame_.settings(), programFolder());
+    model.Form_Load();
+    frmPipe dialog(model, *this, &frame_);
+    model.Form_Activate();
+    return model.SelectPipeID(selector, [&] { dialog.runModal(); });
+}
+
+Single GuiUserInterface::SelectRoughness()
+{
+    RoughnessModel model(*this, &frame_.settings());
+    model.Form_Load();
+    frmRoughness dialog(model, *this, &frame_);
+    model.Form_Activate();
+    return model.SelectRoughness([&] { dialog.runModal(); });
+}
+
+void GuiUserInterface::GetKValue()
+{
+    MinorLossesModel model(*this);
+    model.Form_Load();
+    frmMinorLosses dialog(model, *this, &frame_);
+    model.GetKValue([&] { dialog.runModal(); });
+}
+
+Single GuiUserInterface::GetContractionK()
+{
+    ReducerModel model(ReducerKind::Contraction, *this);
+    model.Form_Load();
+    frmReducer dialog(model, *this, &frame_);
+    return model.GetK([&] { dialog.runModal(); });
+}
+
+Single GuiUserInterface::GetEnlargementK()
+{
+    ReducerModel model(ReducerKind::Enlargement, *this);
+    model.Form_Load();
+    frmReducer dialog(model, *this, &frame_);
+    return model.GetK([&] { dialog.runModal(); });
+}
+
+Single GuiUserInterface::GetZValue(Single temperature, Single pressure)
+{
+    CompressFactorModel model(*this, &frame_.settings());
+    model.Form_Load();
+    frmCompressFactor dialog(model, *this, frame_.model().dataBaseFileValid(), &frame_);
+    return model.GetZValue(temperature, pressure, [&] { dialog.runModal(); });
+}
+
+Single GuiUserInterface::GetHeatCapRatioValue(Single temperature, Single pressure)
+{
+    HeatCapRatioModel model(*this);
+    frmHeatCapRatio dialog(model, *this, frame_.model().dataBaseFileValid(), &frame_);
+    return model.GetHeatCapRatioValue(temperature, pressure, [&] { dialog.runModal(); });
+}
+
+Single GuiUserInterface::GetFlowrateConversion(int fluid)
+{
+    FlowConversionsModel model(&frame_.settings());
+    model.Form_Load();
+    frmFlowConversions dialog(model, *this, &frame_);
+    const Single flow = model.GetFlowrateConversion(fluid, [&] { dialog.runModal(); });
+    model.Form_Unload();
+    return flow;
+}
+
+Single GuiUserInterface::GetGasDensity(Single temperature, Single pressure)
+{
+    GasDensityModel model(*this);
+    model.Form_Load();
+    frmGasDensity dialog(model, *this, &frame_);
+    model.Form_Activate();
+    return model.GetGasDensity(temperature, pressure, [&] { dialog.runModal(); });
+}
+
+bool GuiUserInterface::GetPhysicalProperties(FluidKind fluid, Single temperature)
+{
+    frame_.model().MDIForm_Activate();
+    if (!frame_.model().dataBaseFileValid()) {
+        ask("Physical Properties", kNoDataBase, MessageIcon::Warning, MessageButtons::Ok, MessageAnswer::Ok);
+        return false;
+    }
+    std::vector<Compound> compounds;
+    try {
+        const BusyPointer busy(*this);
+        compounds = readCompounds(QString::fromStdString(frame_.model().dataBaseLocation()));
+    } catch (const std::exception& error) {
+        ask("Physical Properties", error.what(), MessageIcon::Stop, MessageButtons::Ok, MessageAnswer::Ok);
+        return false;
+    }
+    PhysicalPropertiesModel model(*this, std::move(compounds));
+    frmPhysicalProperties dialog(model, *this, &frame_);
+    model.GetPhysicalProperties(fluid, temperature, [&] { dialog.runModal(); });
+    return !propertiesCancelled();
+}
+
+void GuiUserInterface::showTool(const std::string& menuName)
+{
+    if (menuName == "mnuToolsPipeData") {
+        PipeModel model(*this, &frame_.settings(), programFolder());
+        model.Form_Load();
+        frmPipe dialog(model, *this, &frame_);
+        model.Form_Activate();
+        dialog.runModal();
+    } else if (menuName == "mnuToolsRoughness") {
+        RoughnessModel model(*this, &frame_.settings());
+        model.Form_Load();
+        frmRoughness dialog(model, *this, &frame_);
+        model.Form_Activate();
+        dialog.runModal();
+    } else if (menuName == "mnuToolsMinorLosses") {
+        CurrentLine() = 0;
+        MinorLossesModel model(*this);
+        model.Form_Load();
+        frmMinorLosses dialog(model, *this, &frame_);
+        dialog.runModal();
+    } else if (menuName == "mnuToolsFlowConversions") {
+        FlowConversionsModel model(&frame_.settings());
+        model.Form_Load();
+        frmFlowConversions dialog(model, *this, &frame_);
+        dialog.runModal();
+        model.Form_Unload();
+    } else if (menuName == "mnuToolsGasDensity") {
+        GasDensityModel model(*this);
+        model.Form_Load();
+        frmGasDensity dialog(model, *this, &frame_);
+        model.Form_Activate();
+        dialog.runModal();
+    } else if (menuName == "mnuToolsCompressFactor") {
+        CompressFactorModel model(*this, &frame_.settings());
+        model.Form_Load();
+        frmCompressFactor dialog(model, *this, frame_.model().dataBaseFileValid(), &frame_);
+        dialog.runModal();
+    } else if (menuName == "mnuToolsHeatCapRatio") {
+        HeatCapRatioModel model(*this);
+        frmHeatCapRatio dialog(model, *this, frame_.model().dataBaseFileValid(), &frame_);
+        dialog.runModal();
+    } else if (menuName == "mnuToolsPP") {
+        try {
+            PhysicalPropertiesModel model(*this, readCompounds(QString::fromStdString(frame_.model().dataBaseLocation())));
+            frmPhysicalProperties dialog(model, *this, &frame_);
+            dialog.runModal();
+        } catch (const std::exception& error) {
+            ask("Physical Properties", error.what(), MessageIcon::Stop, MessageButtons::Ok, MessageAnswer::Ok);
+        }
+    }
+}
+
+void GuiUserInterface::showRegimeMap(const std::string& orientation)
+{
+    frame_.showRegimeMap(orientation == "Horizontal");
+}
+
+int GuiUserInterface::runReport(const std::string& title, const std::string& reportFile, const std::string& stagingPath,
+                                const std::string& table)
+{
+    const auto layout = readReportTemplate(QString::fromStdString(reportFile));
+    if (!layout)
+        return 1;
+    const auto row = stagedRow(QString::fromStdString(stagingPath), table);
+    if (!row)
+        return 2;
+    const auto html = dataSheetHtml(*layout, *row);
+    if (!html)
+        return 3;
+    QTextDocument sheet;
+    sheet.setHtml(*html);
+    QPrintPreviewDialog preview(&frame_.printer(), &frame_);
+    preview.setWindowTitle(QString::fromStdString(title));
+    QObject::connect(&preview, &QPrintPreviewDialog::paintRequested, &preview,
+                     [&sheet](QPrinter* printer) { sheet.print(printer); });
+    const bool wasBusy = busy_;
+    if (wasBusy)
+        setBusyPointer(false);
+    preview.resize(frame_.size() * 0.8);
+    preview.exec();
+    if (wasBusy)
+        setBusyPointer(true);
+    return 0;
+}
+
+} // namespace kestrova

@@ -1,0 +1,1 @@
+// a file in no layer folder

@@ -1,0 +1,2 @@
+#pragma once
+#include "tools/c/ui/view.h"
