@@ -16,6 +16,10 @@ namespace {
 
 // A document tool that keeps what the frame asked of it.
 struct RecordingTool : DocumentTool {
+    void Form_Load() override {}
+    void Form_Activate() override {}
+    bool Form_QueryUnload() override { return true; }
+    bool isDirty() const override { return false; }
     std::string strFileName() const override { return fileName; }
     void setStrFileName(const std::string& path) override { fileName = path; }
     bool OpenSaveData(const std::string& operation) override

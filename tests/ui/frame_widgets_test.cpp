@@ -103,7 +103,7 @@ private slots:
         QCOMPARE(frame.toolbarButton("CpCv")->toolTip(), QString("Heat Capcity Ratio"));
 
         frame.action("mnuToolsPressureDrop")->trigger();
-        PressureDropModel* model = frame.mnuToolsPressureDrop_Click();
+        auto* model = dynamic_cast<PressureDropModel*>(frame.openDocumentTool(2));
         QVERIFY(model);
         QWidget* form = frontForm(frame);
         QCOMPARE(form->objectName(), QString("frmPressureDrop"));
@@ -160,7 +160,7 @@ private slots:
         FrameUnderTest under;
         QVERIFY(shownAndActive(under.frame));
         frmMain& frame = under.frame;
-        OrificeModel* model = frame.mnuToolsRestrictionOrifices_Click();
+        auto* model = dynamic_cast<OrificeModel*>(frame.openDocumentTool(1));
         QVERIFY(model);
         QWidget* form = frontForm(frame);
         QCOMPARE(form->objectName(), QString("frmOrificePlates"));
@@ -226,7 +226,7 @@ private slots:
         FrameUnderTest under;
         QVERIFY(shownAndActive(under.frame));
         frmMain& frame = under.frame;
-        PressureDropModel* model = frame.mnuToolsPressureDrop_Click();
+        auto* model = dynamic_cast<PressureDropModel*>(frame.openDocumentTool(2));
         QWidget* form = frontForm(frame);
         model->SSTab1_Click(1);
         typeAll(form, {{"txtData(11)", "30000"}, {"txtData(12)", "100"}, {"txtData(14)", "0.018"}, {"txtData(15)", "4.026"},

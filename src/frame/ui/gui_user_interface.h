@@ -42,8 +42,11 @@ public:
                   const std::string& table) override;
 
     void toolNotAvailable(const std::string& tool);
-    // A dialog tool opened by itself from the Tools menu, by its menu entry's name.
-    void showTool(const std::string& menuName);
+    // A dialog tool shown by itself from the Tools menu, by its menu entry's
+    // name; false when the name is no dialog tool's.
+    bool showTool(const std::string& menuName);
+
+    frmMain& frame() const { return frame_; }
 
 private:
     frmMain& frame_;

@@ -32,8 +32,8 @@ public:
 
     explicit OrificeModel(UserInterface& ui, QObject* parent = nullptr);
 
-    void Form_Load();
-    void Form_Activate(); // takes the global unit set
+    void Form_Load() override;
+    void Form_Activate() override; // takes the global unit set
     void SSTab1_Click(int tab);
     void setUnit(int field, UnitIndex unit); // a unit list choice: the field is shown again
     void txtData_LostFocus(int field);       // commits the typed text, then calculates
@@ -47,7 +47,8 @@ public:
     void cmdProperties_Click(int index); // 0 liquid tab, 1 gas tab: the physical properties tool
     void cmdTable_Click(int index);      // 0, 1 pipe sizes; 2 the heat capacity ratio; 3 the gas density
     void cmdReset_Click();    // asks first
-    bool Form_QueryUnload();  // the close question; false keeps the form
+    bool Form_QueryUnload() override; // the close question; false keeps the form
+    bool isDirty() const override { return dirty; }
 
     // The frame's side: file name, the kind 1 file, the data sheet.
     std::string strFileName() const override { return fileName_; }

@@ -60,9 +60,10 @@ public:
     explicit PressureDropModel(UserInterface& ui, QObject* parent = nullptr);
 
     // --- event routines ------------------------------------------------------
-    void Form_Load();
-    void Form_Activate();
-    bool Form_QueryUnload(); // false keeps the form open
+    void Form_Load() override;
+    void Form_Activate() override;
+    bool Form_QueryUnload() override; // false keeps the form open
+    bool isDirty() const override { return DirtyFlag; }
     void SSTab1_Click(int tab);
     void txtData_LostFocus(int index);
     void txtDisplay_LostFocus(int index);

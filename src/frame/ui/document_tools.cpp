@@ -1,0 +1,97 @@
+#include "frame/ui/document_tools.h"
+
+#include "tools/orifice/model/orifice_model.h"
+#include "tools/orifice/ui/frmOrificePlates.h"
+#include "tools/pressure_drop/model/pressure_drop_model.h"
+#include "tools/pressure_drop/ui/frmPressureDrop.h"
+
+#include <QIcon>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+
+namespace kestrova {
+
+namespace {
+
+template <typename Model, typename Window>
+DocumentToolKind documentTool(std::int16_t fileKind, const char* menuAction)
+{
+    return {fileKind, menuAction,
+            [](UserInterface& ui) -> std::unique_ptr<DocumentTool> { return std::make_unique<Model>(ui); },
+            [](DocumentTool& model, UserInterface& ui) -> QWidget* { return new Window(static_cast<Model&>(model), ui); }};
+}
+
+} // namespace
+
+const std::vector<DocumentToolKind>& documentToolKinds()
+{
+    static const std::vector<DocumentToolKind> kinds{
+        documentTool<PressureDropModel, frmPressureDrop>(2, "mnuToolsPressureDrop"),
+        documentTool<OrificeModel, frmOrificePlates>(1, "mnuToolsRestrictionOrifices"),
+    };
+    return kinds;
+}
+
+OpenDocuments::OpenDocuments(QMdiArea& area, UserInterface& ui, QObject& watcher)
+    : area_(area), ui_(ui), watcher_(watcher)
+{
+    for (const DocumentToolKind& kind : documentToolKinds())
+        slots_.push_back({&kind, nullptr, nullptr});
+}
+
+OpenDocuments::~OpenDocuments()
+{
+    // The tool windows go before the models they show.
+    for (Slot& slot : slots_)
+        delete slot.window;
+}
+
+DocumentTool* OpenDocuments::show(std::int16_t fileKind)
+{
+    for (Slot& slot : slots_)
+        if (slot.kind->fileKind == fileKind)
+            return show(slot);
+    return nullptr;
+}
+
+DocumentTool* OpenDocuments::showFromMenu(const std::string& menuAction)
+{
+    for (Slot& slot : slots_)
+        if (menuAction == slot.kind->menuAction)
+            return show(slot);
+    return nullptr;
+}
+
+DocumentTool* OpenDocuments::show(Slot& slot)
+{
+    if (!slot.window) {
+        delete slot.window;
+        slot.model = slot.kind->makeModel(ui_);
+        QWidget* form = slot.kind->makeWindow(*slot.model, ui_);
+        slot.model->Form_Load();
+        slot.window = area_.addSubWindow(form);
+        slot.window->setAttribute(Qt::WA_DeleteOnClose);
+        slot.window->setWindowIcon(QIcon());
+        slot.window->installEventFilter(&watcher_);
+        slot.window->resize(form->sizeHint());
+    }
+    slot.window->show();
+    area_.setActiveSubWindow(slot.window);
+    slot.window->widget()->setFocus();
+    return slot.model.get();
+}
+
+DocumentTool* OpenDocuments::active() const
+{
+    return ofWindow(area_.activeSubWindow());
+}
+
+DocumentTool* OpenDocuments::ofWindow(const QObject* subWindow) const
+{
+    for (const Slot& slot : slots_)
+        if (subWindow && slot.window == subWindow)
+            return slot.model.get();
+    return nullptr;
+}
+
+} // namespace kestrova
