@@ -12,6 +12,7 @@
 
 #include <QApplication>
 #include <QLineEdit>
+#include <QTest>
 
 #include <benchmark/benchmark.h>
 
@@ -39,10 +40,15 @@ void windowCommit(benchmark::State& state, std::initializer_list<std::pair<const
     Window window(model, ui);
     model.Form_Load();
     window.show();
+    window.activateWindow();
+    if (!QTest::qWaitForWindowActive(&window)) // a field takes the focus only in the active window
+        state.SkipWithError("the window did not become active");
     model.Form_Activate();
     for (const auto& [name, text] : setUp)
         commitField(window.template findChild<QLineEdit*>(name), text);
     QLineEdit* edited = window.template findChild<QLineEdit*>(field);
+    if (window.template findChild<QLineEdit*>("txtData(0)")->text() == "0") // the case was not taken
+        state.SkipWithError("the fields of the case were not committed");
     bool flip = false;
     for (auto _ : state) {
         commitField(edited, (flip = !flip) ? first : second);

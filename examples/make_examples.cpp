@@ -46,28 +46,24 @@ bool save(const Case& c, const QDir& folder)
     minorLossStore().hasData[0] = true;
     if (c.tab < 2)
         tool.cmdTable_Click(c.tab == 0 ? 2 : 8);
-    for (const auto& [index, text] : c.fields) {
-        tool.txtData[static_cast<size_t>(index)].text = text;
-        tool.txtData_LostFocus(index);
-    }
-    for (const auto& [index, text] : c.displays) {
-        tool.txtDisplay[static_cast<size_t>(index)].text = text;
-        tool.txtDisplay_LostFocus(index);
-    }
+    for (const auto& [index, text] : c.fields)
+        tool.commit(pressure_drop::txtData(index), text);
+    for (const auto& [index, text] : c.displays)
+        tool.commit(pressure_drop::txtDisplay(index), text);
     if (c.option >= 0) {
         if (c.tab == 1)
             tool.optCalcType_Click(c.option);
         else
             tool.optOrientation_Click(c.option);
     }
-    tool.txtProject[static_cast<size_t>(c.tab)].text = c.project.at(0);
-    tool.txtTag[static_cast<size_t>(c.tab)].text = c.project.at(1);
+    tool.commit(pressure_drop::txtProject(c.tab), c.project.at(0));
+    tool.commit(pressure_drop::txtTag(c.tab), c.project.at(1));
     tool.setStrFileName(folder.filePath(c.file).toStdString());
-    if (!tool.OpenSaveData("Save As") || tool.failed) {
+    if (!tool.OpenSaveData("Save As") || tool.view().failed) {
         std::cerr << "could not save " << c.file << '\n';
         return false;
     }
-    std::cout << c.file << ": pressure drop " << tool.txtData[c.tab == 0 ? 10 : c.tab == 1 ? 24 : 41].text << " psi\n";
+    std::cout << c.file << ": pressure drop " << tool.view().txtData[c.tab == 0 ? 10 : c.tab == 1 ? 24 : 41].text << " psi\n";
     return true;
 }
 
@@ -83,12 +79,9 @@ bool saveOrificeExample(const QDir& folder)
     tool.Form_Activate();
     for (const auto& [field, text] : std::map<int, std::string>{
              {1, "10"}, {2, "2.013"}, {3, "68"}, {4, "62.4"}, {5, "1"}, {9, "4.026"}})
-    {
-        tool.txtData[static_cast<size_t>(field)] = text;
-        tool.txtData_LostFocus(field);
-    }
-    tool.txtProject[0] = "Cooling water meter";
-    tool.txtTag[0] = "FE-110";
+        tool.commit(orifice::txtData(field), text);
+    tool.commit(orifice::txtProject(0), "Cooling water meter");
+    tool.commit(orifice::txtTag(0), "FE-110");
     tool.setStrFileName(folder.filePath("orifice-water-4in.ksv").toStdString());
     if (tool.OpenSaveData("Save"))
         return true;

@@ -19,9 +19,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     tool.Form_Activate();
     tool.setStrFileName(path.toStdString());
     tool.OpenSaveData("Open");
-    for (const std::string& text : tool.txtData)
-        fuzz::requireShowable(text, "an orifice field");
-    for (const std::string& text : tool.txtDisplay)
-        fuzz::requireShowable(text, "an orifice display");
+    for (const TextControl& field : tool.view().txtData)
+        fuzz::requireShowable(field.text, "an orifice field");
+    for (const TextControl& display : tool.view().txtDisplay)
+        fuzz::requireShowable(display.text, "an orifice display");
     return 0;
 }

@@ -20,9 +20,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     tool.Form_Activate();
     tool.setStrFileName(path.toStdString());
     tool.OpenSaveData("Open");
-    for (const TextControl& field : tool.txtData)
+    for (const TextControl& field : tool.view().txtData)
         fuzz::requireShowable(field.text, "a pressure drop field");
-    for (const TextControl& display : tool.txtDisplay)
+    for (const TextControl& display : tool.view().txtDisplay)
         fuzz::requireShowable(display.text, "a pressure drop display");
     return 0;
 }

@@ -120,30 +120,26 @@ void pressureDropCalculateResults(const RequestArgs& a, JsonObject& result)
 
     const json& args = a.raw();
     if (args.contains("tab"))
-        tool.tab = std::clamp<int>(a.integer16("tab"), 0, 2);
+        tool.selectTab(a.integer16("tab"));
     if (args.contains("crossSection"))
         tool.selectCrossSection(std::clamp<int>(a.integer16("crossSection"), 0, 5));
     if (args.contains("calcType"))
-        tool.calcType = std::clamp<int>(a.integer16("calcType"), 0, 1);
+        tool.selectCalcType(a.integer16("calcType"));
     if (args.contains("orientation"))
         tool.selectOrientation(std::clamp<int>(a.integer16("orientation"), 0, 2));
 
     applyUnits(objectArgument(args, "units"), kPressureDropFields,
                [&tool](int index, UnitIndex unit) { tool.setUnit(index, unit); });
-    applyRecord(tool.record.fields(), pressureDropFieldNames(), objectArgument(args, "record"));
-    for (int i = 0; i < kPressureDropFields; ++i)
-        tool.cboUnits_Click(i);
+    PressureDropData record = tool.view().record;
+    applyRecord(record.fields(), pressureDropFieldNames(), objectArgument(args, "record"));
+    tool.useRecord(record);
 
     const json& texts = objectArgument(args, "texts");
     checkControlNames(texts, {{"txtData", kPressureDropFields}, {"txtDisplay", PressureDropModel::kDisplays}});
-    applyTexts(texts, "txtData", kPressureDropFields, [&tool](int index, const std::string& text) {
-        tool.txtData[static_cast<size_t>(index)].text = text;
-        tool.commitFieldText(index);
-    });
-    applyTexts(texts, "txtDisplay", PressureDropModel::kDisplays, [&tool](int index, const std::string& text) {
-        tool.txtDisplay[static_cast<size_t>(index)].text = text;
-        tool.commitDisplayText(index);
-    });
+    applyTexts(texts, "txtData", kPressureDropFields,
+               [&tool](int index, const std::string& text) { tool.commitFieldText(index, text); });
+    applyTexts(texts, "txtDisplay", PressureDropModel::kDisplays,
+               [&tool](int index, const std::string& text) { tool.commitDisplayText(index, text); });
     tool.CalculateResults();
     reportPressureDrop(tool, ui, result);
 }
@@ -162,26 +158,21 @@ void orificePlatesComputeOrifice(const RequestArgs& a, JsonObject& result)
     // The options are clicked as a user clicks them: the position an index
     // gives (0 to 2 or 3 to 5) on the tab shown.
     if (args.contains("compute"))
-        tool.optCompute_Click(3 * tool.tab + std::clamp<int>(a.integer16("compute"), 0, 5) % 3);
+        tool.optCompute_Click(3 * tool.view().tab + std::clamp<int>(a.integer16("compute"), 0, 5) % 3);
     if (args.contains("tap"))
-        tool.optMeterTap_Click(3 * tool.tab + std::clamp<int>(a.integer16("tap"), 0, 5) % 3);
+        tool.optMeterTap_Click(3 * tool.view().tab + std::clamp<int>(a.integer16("tap"), 0, 5) % 3);
     applyUnits(objectArgument(args, "units"), OrificeModel::kFields,
                [&tool](int index, UnitIndex unit) { tool.setUnit(index, unit); });
-    applyRecord(tool.record.fields(), OrificeData::names().data(), objectArgument(args, "record"));
-    for (int i = 0; i < OrificeModel::kFields; ++i)
-        tool.showField(i);
+    OrificeData record = tool.view().record;
+    applyRecord(record.fields(), OrificeData::names().data(), objectArgument(args, "record"));
+    tool.useRecord(record);
 
     const json& texts = objectArgument(args, "texts");
     checkControlNames(texts, {{"txtData", OrificeModel::kFields}, {"txtDisplay", OrificeModel::kDisplays}});
-    applyTexts(texts, "txtData", OrificeModel::kFields, [&tool](int index, const std::string& text) {
-        tool.txtData[static_cast<size_t>(index)] = text;
-        tool.commitFieldText(index);
-    });
-    applyTexts(texts, "txtDisplay", OrificeModel::kDisplays, [&tool](int index, const std::string& text) {
-        tool.txtDisplay[static_cast<size_t>(index)] = text;
-        if (index == 5) // k, the only display that takes typing
-            tool.record.heatCapacityRatio = fieldSingleOr0(text);
-    });
+    applyTexts(texts, "txtData", OrificeModel::kFields,
+               [&tool](int index, const std::string& text) { tool.commitFieldText(index, text); });
+    applyTexts(texts, "txtDisplay", OrificeModel::kDisplays,
+               [&tool](int index, const std::string& text) { tool.commitDisplayText(index, text); });
     tool.ComputeOrifice();
     reportOrifice(tool, result);
 }
@@ -281,7 +272,7 @@ void flowConversionsConvert(const RequestArgs& a, JsonObject& result)
     // The other given fields were left before: they hold their values.
     try {
         for (const auto& [index, value] : controlsOf(texts, "txtData", 8))
-            if (index != field && tool.txtData[static_cast<size_t>(index)].role == FieldRole::Input)
+            if (index != field && tool.txtData[static_cast<size_t>(index)].role == ConversionRole::Input)
                 tool.commitText(index);
     } catch (const NumericFault&) {
     }

@@ -52,8 +52,9 @@ std::string messagesJson(const ScriptedUserInterface& ui)
     return json + "]";
 }
 
-void reportPressureDrop(const PressureDropModel& tool, const ScriptedUserInterface& ui, JsonObject& result)
+void reportPressureDrop(const PressureDropModel& model, const ScriptedUserInterface& ui, JsonObject& result)
 {
+    const PressureDropState& tool = model.view();
     JsonObject record;
     PressureDropData copy = tool.record;
     const auto fields = copy.fields();
@@ -65,7 +66,8 @@ void reportPressureDrop(const PressureDropModel& tool, const ScriptedUserInterfa
     for (int i = 0; i < PressureDropModel::kDisplays; ++i)
         texts.text("txtDisplay(" + std::to_string(i) + ")", tool.txtDisplay[static_cast<size_t>(i)].text);
     JsonObject frames;
-    frames.raw("Frame1(5)", frameJson(tool.Frame1[5])).raw("Frame1(8)", frameJson(tool.Frame1[8]));
+    frames.raw("Frame1(5)", frameJson(tool.Frame1[pressure_drop::GasResultsFrame]))
+        .raw("Frame1(8)", frameJson(tool.Frame1[pressure_drop::TwoPhaseResultsFrame]));
     result.raw("record", record.str())
         .raw("texts", texts.str())
         .raw("frames", frames.str())
@@ -74,18 +76,20 @@ void reportPressureDrop(const PressureDropModel& tool, const ScriptedUserInterfa
         .integer("beeps", ui.beeps);
 }
 
-void reportOrifice(OrificeModel& tool, JsonObject& result)
+void reportOrifice(const OrificeModel& model, JsonObject& result)
 {
+    const OrificeState& tool = model.view();
     JsonObject record;
-    const auto fields = tool.record.fields();
+    OrificeData copy = tool.record;
+    const auto fields = copy.fields();
     for (int i = 0; i < OrificeData::kFieldCount; ++i)
         record.single(OrificeData::names()[static_cast<size_t>(i)], *fields[static_cast<size_t>(i)]);
     JsonObject texts;
     for (int i = 0; i < OrificeModel::kFields; ++i)
-        texts.text("txtData(" + std::to_string(i) + ")", tool.txtData[static_cast<size_t>(i)]);
+        texts.text("txtData(" + std::to_string(i) + ")", tool.txtData[static_cast<size_t>(i)].text);
     for (int i = 0; i < OrificeModel::kDisplays; ++i)
-        texts.text("txtDisplay(" + std::to_string(i) + ")", tool.txtDisplay[static_cast<size_t>(i)]);
-    texts.text("txtErrorLiquid", tool.txtErrorLiquid).text("txtErrorGas", tool.txtErrorGas);
+        texts.text("txtDisplay(" + std::to_string(i) + ")", tool.txtDisplay[static_cast<size_t>(i)].text);
+    texts.text("txtErrorLiquid", tool.txtErrorLiquid.text).text("txtErrorGas", tool.txtErrorGas.text);
     result.raw("record", record.str()).raw("texts", texts.str());
 }
 

@@ -27,7 +27,7 @@ std::string messagesJson(const ScriptedUserInterface& ui);
 void reportPressureDrop(const PressureDropModel& tool, const ScriptedUserInterface& ui, JsonObject& result);
 
 // record and texts of the orifice tool after a run.
-void reportOrifice(OrificeModel& tool, JsonObject& result);
+void reportOrifice(const OrificeModel& model, JsonObject& result);
 
 // Every array and scalar of the network, the texts of txtData(0..33) and the grid.
 void reportPumpNetwork(const PumpNetworkModel& tool, JsonObject& result);

@@ -53,8 +53,8 @@ protected:
 TEST_F(DataSheetTest, LiquidSheetTakesTheTextsAsShownAndTheCompanyBlock)
 {
     enterWaterLine();
-    tool.txtProject[0].text = "Cooling water";
-    tool.liquidName = "Water";
+    tool.commit(pressure_drop::txtProject(0), "Cooling water");
+    tool.commit(pressure_drop::txtLiquid, "Water");
     const DataSheetColumns row = print();
     const auto& run = ui.reports.back();
     EXPECT_EQ(run.title, "Liquid Pressure Drop");
@@ -80,16 +80,17 @@ TEST_F(DataSheetTest, LiquidSheetTakesTheTextsAsShownAndTheCompanyBlock)
     EXPECT_TRUE(ui.messages.empty());
 }
 
-TEST_F(DataSheetTest, AnOldResultIsPrintedAsItStandsAndNothingIsRecalculated)
+TEST_F(DataSheetTest, AFieldBeingTypedIsPrintedAsItStandsAndNothingIsRecalculated)
 {
     enterWaterLine();
-    const float drop = tool.record.PressureDrop;
-    tool.txtData[10].text = "12.34"; // shown but never committed
-    tool.txtDisplay[2].text = "";
+    const float drop = tool.view().record.PressureDrop;
+    const std::string shownDrop = data(10);
+    tool.textEdited(pressure_drop::txtData(5), "8"); // typed, the field not yet left
     const DataSheetColumns row = print();
-    EXPECT_EQ(column(row, "PD"), "12.34");
-    EXPECT_EQ(column(row, "Regime"), "");
-    EXPECT_EQ(tool.record.PressureDrop, drop);
+    EXPECT_EQ(column(row, "Diameter"), "8");
+    EXPECT_EQ(column(row, "PD"), shownDrop);
+    EXPECT_EQ(tool.view().record.PressureDrop, drop);
+    EXPECT_EQ(tool.view().record.Diameter, 6.065f);
 }
 
 TEST_F(DataSheetTest, GasAndTwoPhaseSheetsNameTheirOptions)
@@ -117,7 +118,7 @@ TEST_F(DataSheetTest, GasAndTwoPhaseSheetsNameTheirOptions)
 TEST_F(DataSheetTest, AFailedReportSaysSoAndStillEmptiesTheTable)
 {
     enterWaterLine();
-    tool.DirtyFlag = false;
+    ASSERT_FALSE(tool.view().DirtyFlag);
     ui.reportResult = 1;
     print();
     ASSERT_EQ(ui.messages.size(), 1u);
@@ -127,7 +128,7 @@ TEST_F(DataSheetTest, AFailedReportSaysSoAndStillEmptiesTheTable)
                                    "present in the directory where Kestrova was installed\r"
                                    "or re-install Kestrova.");
     EXPECT_EQ(stagedRows("PDLiquid"), 0);
-    EXPECT_FALSE(tool.DirtyFlag);
+    EXPECT_FALSE(tool.view().DirtyFlag);
 }
 
 TEST_F(DataSheetTest, ShippedLayoutsNameOnlyColumnsTheToolWrites)

@@ -57,14 +57,19 @@ TEST(UnitField, EveryOrificeFieldShowsInEveryUnitOfItsList)
     ScriptedUserInterface ui;
     OrificeModel tool(ui);
     tool.Form_Load();
-    for (Single* field : tool.record.fields())
+    OrificeData ones{};
+    for (Single* field : ones.fields())
         *field = 1;
-    for (int i = 0; i < OrificeModel::kFields; ++i)
-        for (size_t u = 0; u < unitList(OrificeModel::unitTagOf(i)).size(); ++u) {
-            tool.txtData[static_cast<size_t>(i)].clear();
+    tool.useRecord(ones);
+    for (int i = 0; i < OrificeModel::kFields; ++i) {
+        const FieldKind& kind = *orificeField(i).kind;
+        for (size_t u = 0; u < unitList(kind.tag).size(); ++u) {
             tool.setUnit(i, static_cast<UnitIndex>(u));
-            EXPECT_FALSE(tool.txtData[static_cast<size_t>(i)].empty()) << "txtData(" << i << ") unit " << u;
+            const std::string expected = unitFieldText(kind, 1, static_cast<UnitIndex>(u));
+            EXPECT_FALSE(expected.empty()) << "txtData(" << i << ") unit " << u;
+            EXPECT_EQ(tool.view().txtData[static_cast<size_t>(i)].text, expected) << "txtData(" << i << ") unit " << u;
         }
+    }
 }
 
 TEST(UnitField, EveryNetworkFieldAndGridRowShowsInEveryUnitOfItsList)

@@ -57,21 +57,19 @@ TEST_F(TypedOverflowTest, PressureDropFields)
     for (int tab = 0; tab < 3; ++tab) {
         tool.SSTab1_Click(tab);
         for (const std::string& typed : kTooLarge) {
+            const PressureDropState& form = tool.view();
             for (int i = 0; i < kPressureDropFields; ++i) {
-                tool.txtData[static_cast<size_t>(i)].text = typed;
-                ASSERT_NO_THROW(tool.txtData_LostFocus(i)) << "txtData(" << i << ") " << typed;
+                ASSERT_NO_THROW(tool.commit(pressure_drop::txtData(i), typed)) << "txtData(" << i << ") " << typed;
                 // The field shows the value the tool now holds, whatever it was before.
-                const FieldBinding& field = pressureDropField(i);
-                EXPECT_EQ(tool.txtData[static_cast<size_t>(i)].text,
-                          unitFieldText(*field.kind, tool.record.*field.member, tool.cboUnits[static_cast<size_t>(i)].listIndex))
+                const auto& field = pressureDropField(i);
+                EXPECT_EQ(form.txtData[static_cast<size_t>(i)].text,
+                          unitFieldText(*field.kind, field.of(form.record), form.cboUnits[static_cast<size_t>(i)].listIndex))
                     << "txtData(" << i << ")";
             }
-            for (int i = 0; i < PressureDropModel::kDisplays; ++i) {
-                tool.txtDisplay[static_cast<size_t>(i)].text = typed;
-                ASSERT_NO_THROW(tool.txtDisplay_LostFocus(i)) << "txtDisplay(" << i << ") " << typed;
-            }
+            for (int i = 0; i < PressureDropModel::kDisplays; ++i)
+                ASSERT_NO_THROW(tool.commit(pressure_drop::txtDisplay(i), typed)) << "txtDisplay(" << i << ") " << typed;
             std::vector<std::string> texts;
-            for (const auto& field : tool.txtData)
+            for (const auto& field : form.txtData)
                 texts.push_back(field.text);
             expectShowable(texts, "Pressure Drop");
         }
@@ -86,15 +84,16 @@ TEST_F(TypedOverflowTest, OrificeFields)
     for (int tab = 0; tab < 2; ++tab) {
         tool.SSTab1_Click(tab);
         for (const std::string& typed : kTooLarge) {
-            for (int i = 0; i < OrificeModel::kFields; ++i) {
-                tool.txtData[static_cast<size_t>(i)] = typed;
-                ASSERT_NO_THROW(tool.txtData_LostFocus(i)) << "txtData(" << i << ") " << typed;
-            }
-            tool.txtDisplay[5] = typed;
-            ASSERT_NO_THROW(tool.txtDisplay_LostFocus(5));
-            EXPECT_EQ(tool.record.heatCapacityRatio, 0.0);
-            std::vector<std::string> texts(tool.txtData.begin(), tool.txtData.end());
-            texts.insert(texts.end(), tool.txtDisplay.begin(), tool.txtDisplay.end());
+            const OrificeState& form = tool.view();
+            for (int i = 0; i < OrificeModel::kFields; ++i)
+                ASSERT_NO_THROW(tool.commit(orifice::txtData(i), typed)) << "txtData(" << i << ") " << typed;
+            ASSERT_NO_THROW(tool.commit(orifice::txtDisplay(orifice::HeatCapacityRatio), typed));
+            EXPECT_EQ(form.record.heatCapacityRatio, 0.0);
+            std::vector<std::string> texts;
+            for (const auto& field : form.txtData)
+                texts.push_back(field.text);
+            for (const auto& display : form.txtDisplay)
+                texts.push_back(display.text);
             expectShowable(texts, "Orifice Plates");
         }
     }

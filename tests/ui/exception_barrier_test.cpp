@@ -94,8 +94,8 @@ private slots:
 
         // The window and its case are there as before, and the tool still works.
         QVERIFY(form.isVisible());
-        QCOMPARE(model.record.LiquidFlow.value(), 36000.0f);
-        QCOMPARE(model.record.Diameter.value(), 6.065f);
+        QCOMPARE(model.view().record.LiquidFlow.value(), 36000.0f);
+        QCOMPARE(model.view().record.Diameter.value(), 6.065f);
         QCOMPARE(text(form, "txtData(0)"), QString("36,000.00"));
         QCOMPARE(text(form, "txtData(10)"), drop);
         type(form, "txtData(8)", "200");
@@ -115,7 +115,7 @@ private slots:
         type(form, "txtData(0)", "1200");
         QCOMPARE(ui.messages.size(), size_t(1));
         QVERIFY(ui.messages[0].text.find("the toolbar is gone") != std::string::npos);
-        QCOMPARE(model.record.LiquidFlow.value(), 1200.0f);
+        QCOMPARE(model.view().record.LiquidFlow.value(), 1200.0f);
         QCOMPARE(text(form, "txtData(0)"), QString("1,200.00"));
     }
 

@@ -25,9 +25,9 @@ protected:
 TEST_F(FlowConversionsTest, StandardGasVolumeToMassAndBack)
 {
     tool.optConversion_Click(0);
-    EXPECT_EQ(tool.txtData[1].role, FieldRole::Input);
-    EXPECT_EQ(tool.txtData[7].role, FieldRole::Output);
-    EXPECT_EQ(tool.txtData[6].role, FieldRole::NotUsed);
+    EXPECT_EQ(tool.txtData[1].role, ConversionRole::Input);
+    EXPECT_EQ(tool.txtData[7].role, ConversionRole::Output);
+    EXPECT_EQ(tool.txtData[6].role, ConversionRole::NotUsed);
     type(1, "16.04");
     type(4, "1,000");
     // 1000 SCFM of methane: 1000 * 60 * 16.04 / 379.4 lb/h, with the molecular

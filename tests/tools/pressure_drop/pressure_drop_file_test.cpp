@@ -42,9 +42,9 @@ protected:
 TEST_F(PressureDropFileTest, TheRecordIsLaidOutByteForByte)
 {
     enterWaterLine();
-    tool.txtProject[0].text = "Cooling water";
-    tool.txtTag[0].text = "L-101";
-    tool.liquidName = "Water \xC3\xA9t\xC3\xA9"; // "Water été"
+    tool.commit(pressure_drop::txtProject(0), "Cooling water");
+    tool.commit(pressure_drop::txtTag(0), "L-101");
+    tool.commit(pressure_drop::txtLiquid, "Water \xC3\xA9t\xC3\xA9"); // "Water été"
     ASSERT_TRUE(save(path("water.ksv")));
     const QByteArray bytes = bytesOf(dir.filePath("water.ksv"));
 
@@ -81,19 +81,19 @@ TEST_F(PressureDropFileTest, SaveAndReopenGivesTheSameFiguresAndBytes)
     tool.cmdTable_Click(2);
     EXPECT_EQ(display(12), "0.75");
     ASSERT_TRUE(save(path("line.ksv")));
-    EXPECT_FALSE(tool.DirtyFlag);
-    EXPECT_EQ(tool.caption, "Pressure Drop: line.ksv");
+    EXPECT_FALSE(tool.view().DirtyFlag);
+    EXPECT_EQ(tool.view().caption, "Pressure Drop: line.ksv");
     const QByteArray first = bytesOf(dir.filePath("line.ksv"));
 
     ScriptedUserInterface otherUi;
     PressureDropModel reopened(otherUi);
     ASSERT_TRUE(reopenIn(reopened, path("line.ksv")));
-    EXPECT_FALSE(reopened.failed);
-    EXPECT_EQ(reopened.txtData[10].text, data(10));
-    EXPECT_EQ(reopened.txtData[9].text, data(9));
-    EXPECT_EQ(reopened.txtDisplay[1].text, display(1));
-    EXPECT_FALSE(reopened.DirtyFlag);
-    EXPECT_EQ(reopened.caption, "Pressure Drop: line.ksv");
+    EXPECT_FALSE(reopened.view().failed);
+    EXPECT_EQ(reopened.view().txtData[10].text, data(10));
+    EXPECT_EQ(reopened.view().txtData[9].text, data(9));
+    EXPECT_EQ(reopened.view().txtDisplay[1].text, display(1));
+    EXPECT_FALSE(reopened.view().DirtyFlag);
+    EXPECT_EQ(reopened.view().caption, "Pressure Drop: line.ksv");
 
     // Saved again in other units, the record bytes are the same.
     reopened.setUnit(0, 3);
@@ -122,7 +122,7 @@ TEST_F(PressureDropFileTest, KSumsComeFromTheMinorLossItems)
 TEST_F(PressureDropFileTest, OtherKindsAndDamagedFilesChangeNothing)
 {
     enterWaterLine();
-    const PressureDropData before = tool.record;
+    const PressureDropData before = tool.view().record;
     const std::string drop = data(10);
 
     writeBytes(dir.filePath("orifice.ksv"), QByteArray("\x01\x00rest", 6));
@@ -139,7 +139,7 @@ TEST_F(PressureDropFileTest, OtherKindsAndDamagedFilesChangeNothing)
         tool.setStrFileName(path("short.ksv"));
         EXPECT_FALSE(tool.OpenSaveData("Open")) << cut;
         EXPECT_NE(ui.messages.back().text.find("damaged"), std::string::npos);
-        EXPECT_EQ(tool.record.LiquidFlow, before.LiquidFlow);
+        EXPECT_EQ(tool.view().record.LiquidFlow, before.LiquidFlow);
         EXPECT_EQ(data(10), drop);
     }
 }
@@ -152,7 +152,7 @@ TEST_F(PressureDropFileTest, AFailedSaveLeavesTheOldFileAndTheData)
     tool.Form_KeyPress();
     tool.setStrFileName(dir.filePath("no/such/folder/keep.ksv").toStdString());
     EXPECT_FALSE(tool.OpenSaveData("Save"));
-    EXPECT_TRUE(tool.DirtyFlag);
+    EXPECT_TRUE(tool.view().DirtyFlag);
     EXPECT_EQ(ui.messages.back().icon, MessageIcon::Stop);
     EXPECT_EQ(bytesOf(dir.filePath("keep.ksv")), kept);
 }
@@ -173,7 +173,7 @@ TEST_F(PressureDropFileTest, ARefusedFileNeverBecomesTheToolsFile)
     frame.openFile("damaged.ksv", path("damaged.ksv"), opener);
     EXPECT_NE(ui.messages.back().text.find("damaged"), std::string::npos);
     EXPECT_EQ(tool.strFileName(), path("good.ksv"));
-    EXPECT_EQ(tool.caption, "Pressure Drop: good.ksv");
+    EXPECT_EQ(tool.view().caption, "Pressure Drop: good.ksv");
 
     // Save then writes the good file, and the refused one stays as it was.
     type(8, "250");
@@ -198,7 +198,7 @@ TEST_F(PressureDropFileTest, ASaveAsThatFailsKeepsTheCaseWithItsOwnFile)
     EXPECT_FALSE(frame.mnuFileSaveAs_Click(&tool, [&](const std::string&) { return nowhere; }));
     EXPECT_EQ(ui.messages.back().icon, MessageIcon::Stop);
     EXPECT_EQ(tool.strFileName(), path("good.ksv"));
-    EXPECT_TRUE(tool.DirtyFlag);
+    EXPECT_TRUE(tool.view().DirtyFlag);
     EXPECT_TRUE(ui.toolbar["Save"]);
     for (const RecentFile& recent : frame.recentFiles.entries())
         EXPECT_NE(recent.path, nowhere);

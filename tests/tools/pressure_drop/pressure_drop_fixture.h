@@ -21,18 +21,13 @@ protected:
         tool.Form_Activate();
     }
 
-    void type(int field, const std::string& text)
-    {
-        tool.txtData[static_cast<size_t>(field)].text = text;
-        tool.txtData_LostFocus(field);
-    }
+    void type(int field, const std::string& text) { tool.commit(kestrova::pressure_drop::txtData(field), text); }
     void typeDisplay(int field, const std::string& text)
     {
-        tool.txtDisplay[static_cast<size_t>(field)].text = text;
-        tool.txtDisplay_LostFocus(field);
+        tool.commit(kestrova::pressure_drop::txtDisplay(field), text);
     }
-    const std::string& data(int field) const { return tool.txtData[static_cast<size_t>(field)].text; }
-    const std::string& display(int field) const { return tool.txtDisplay[static_cast<size_t>(field)].text; }
+    const std::string& data(int field) const { return tool.view().txtData[static_cast<size_t>(field)].text; }
+    const std::string& display(int field) const { return tool.view().txtDisplay[static_cast<size_t>(field)].text; }
 
     // 36,000 lbm/hr of water in a 6.065 in steel pipe, 100 ft.
     void enterWaterLine()

@@ -95,7 +95,7 @@ void FlowConversionsModel::optConversion_Click(int index)
     for (int i = 0; i < 8; ++i) {
         Field& field = txtData[static_cast<size_t>(i)];
         field.text.clear();
-        field.role = roles.inputs.count(i) ? FieldRole::Input : i == roles.output ? FieldRole::Output : FieldRole::NotUsed;
+        field.role = roles.inputs.count(i) ? ConversionRole::Input : i == roles.output ? ConversionRole::Output : ConversionRole::NotUsed;
     }
     stpEnabled = roles.standardCondition;
     if (store_)

@@ -14,7 +14,7 @@ namespace kestrova {
 
 class SettingsStore;
 
-enum class FieldRole { Input, Output, NotUsed };
+enum class ConversionRole { Input, Output, NotUsed };
 
 class FlowConversionsModel : public FormModel {
     Q_OBJECT
@@ -22,7 +22,7 @@ class FlowConversionsModel : public FormModel {
 public:
     struct Field {
         std::string text;
-        FieldRole role = FieldRole::NotUsed;
+        ConversionRole role = ConversionRole::NotUsed;
     };
 
     // The settings store may be absent: then nothing is read or written.

@@ -38,7 +38,7 @@ frmFlowConversions::frmFlowConversions(FlowConversionsModel& model, UserInterfac
                                "lblUnitsLBHR"};
     for (int i = 0; i < 8; ++i) {
         txtData_[static_cast<size_t>(i)] = field(QString("txtData(%1)").arg(i), [this, i](const QString& text) {
-            if (model_.txtData[static_cast<size_t>(i)].role != FieldRole::Input)
+            if (model_.txtData[static_cast<size_t>(i)].role != ConversionRole::Input)
                 return;
             model_.txtData[static_cast<size_t>(i)].text = text.toStdString();
             model_.txtData_LostFocus(i);
@@ -108,11 +108,11 @@ void frmFlowConversions::render()
         QLineEdit* edit = txtData_[static_cast<size_t>(i)];
         const auto& f = model_.txtData[static_cast<size_t>(i)];
         setText(edit, f.text);
-        edit->setReadOnly(f.role != FieldRole::Input);
-        edit->setEnabled(f.role != FieldRole::NotUsed);
-        edit->setFocusPolicy(f.role == FieldRole::NotUsed ? Qt::NoFocus : Qt::StrongFocus);
+        edit->setReadOnly(f.role != ConversionRole::Input);
+        edit->setEnabled(f.role != ConversionRole::NotUsed);
+        edit->setFocusPolicy(f.role == ConversionRole::NotUsed ? Qt::NoFocus : Qt::StrongFocus);
         QPalette p = palette();
-        if (f.role == FieldRole::Output)
+        if (f.role == ConversionRole::Output)
             p.setColor(QPalette::Base, QColor(192, 192, 255));
         edit->setPalette(p);
     }

@@ -1,19 +1,19 @@
-// The orifice tool's kind 1 project file and its data sheets.
+// The orifice tool's kind 1 project file.
 
 #include "tools/orifice/model/orifice_model.h"
 
-#include "datasheets/model/data_sheet.h"
 #include "forms/model/document_file.h"
 #include "forms/store/project_file.h"
 #include "forms/model/user_interface.h"
 #include "numeric/display_mask.h"
 #include "tools/properties/model/phys_props.h"
 #include "tools/properties/model/physical_properties_model.h"
-#include "units/basLoadUnits.h"
 
 #include <QFileInfo>
 
 namespace kestrova {
+
+using namespace orifice;
 
 namespace {
 
@@ -96,7 +96,7 @@ bool OrificeModel::saveFile()
     f.materials = {static_cast<std::int16_t>(elementMaterial[0]), static_cast<std::int16_t>(elementMaterial[1]),
                    static_cast<std::int16_t>(pipeMaterial[0]), static_cast<std::int16_t>(pipeMaterial[1])};
     f.record = record;
-    f.projectAndTags = {txtProject[0], txtTag[0], txtProject[1], txtTag[1]};
+    f.projectAndTags = {txtProject[0].text, txtTag[0].text, txtProject[1].text, txtTag[1].text};
     f.liquidName = liquidName;
     f.gasName = gasName;
     f.compoundPosition = rememberedCompoundPosition();
@@ -124,86 +124,26 @@ bool OrificeModel::openFile()
         cboElementMaterial_Click(t, std::clamp<int>(file.materials[static_cast<size_t>(t)], 0, kMaterials - 1));
         cboPipeMaterial_Click(t, std::clamp<int>(file.materials[static_cast<size_t>(2 + t)], 0, kMaterials - 1));
     }
-    focusRequest.clear();
+    clearFocusRequest();
     record = file.record; // whole, so that typed coefficients of "Other!" survive
-    txtDisplay[5] = plainNumberText(record.heatCapacityRatio);
+    txtDisplay[HeatCapacityRatio].text = plainNumberText(record.heatCapacityRatio);
     for (int t = 0; t < 2; ++t) {
-        txtProject[static_cast<size_t>(t)] = file.projectAndTags[static_cast<size_t>(2 * t)];
-        txtTag[static_cast<size_t>(t)] = file.projectAndTags[static_cast<size_t>(2 * t + 1)];
+        txtProject[static_cast<size_t>(t)].text = file.projectAndTags[static_cast<size_t>(2 * t)];
+        txtTag[static_cast<size_t>(t)].text = file.projectAndTags[static_cast<size_t>(2 * t + 1)];
     }
     liquidName = file.liquidName;
     gasName = file.gasName;
     rememberedCompoundPosition() = file.compoundPosition;
     for (const auto& [kept, value] : savedProperties(physProps(), file))
         *kept = *value;
-    propertiesCaption = {"Properties:  " + liquidName, "Properties:  " + gasName};
+    Frame1[kPropertiesFrame[LiquidTab]].caption = "Properties:  " + liquidName;
+    Frame1[kPropertiesFrame[GasTab]].caption = "Properties:  " + gasName;
     for (int i = 0; i < kFields; ++i)
         showField(i);
     dirty = false;
     ui_.setToolbarButtonEnabled("Save", false);
     ComputeOrifice();
     return true;
-}
-
-void OrificeModel::PrintDataSheet(const DataSheetPrinter& printer)
-{
-    DataSheetColumns row;
-    const auto text = [&](const char* column, const std::string& value) { row.emplace_back(column, value); };
-    const auto unitText = [&](int field) {
-        const std::vector<std::string>& list = unitList(unitTagOf(field));
-        const UnitIndex index = cboUnits[static_cast<size_t>(field)];
-        return index >= 0 && index < static_cast<int>(list.size()) ? list[static_cast<size_t>(index)] : std::string();
-    };
-    const auto field = [&](const char* column, const char* unit, int index) {
-        text(column, txtData[static_cast<size_t>(index)]);
-        text(unit, unitText(index));
-    };
-    const int g = tab == 0 ? 0 : 14; // first field of the tab
-    const size_t t = static_cast<size_t>(tab);
-    std::string computation = captionWithoutAccelerator(computeCaptions()[static_cast<size_t>(compute[t])]);
-    computation.pop_back(); // and without its colon
-    text("Project", txtProject[t]);
-    text("Tag", txtTag[t]);
-    text("Fluid", tab == 0 ? liquidName : gasName);
-    text("Computation", computation);
-    field("Flowrate", "FUnits", g);
-    field("delP", "delPU", g + 1);
-    field("OriDiameter", "OriDiameterU", g + 2);
-    field("Temp", "TempU", g + 3);
-    const int p = tab == 0 ? g + 4 : g + 5; // the gas tab has the inlet pressure before its density
-    if (tab == 1)
-        field("UpPress", "UpPressU", g + 4);
-    field("Density", "DUnits", p);
-    field("Viscosity", "VisUnits", p + 1);
-    if (tab == 1)
-        text("kRatio", txtDisplay[5]);
-    field("RefT", "RefTU", p + 2);
-    if (tab == 0)
-        field("VentHoleDia", "VentHoleU", p + 3);
-    else
-        field("DrainHoleDia", "DrainHoleU", p + 3);
-    text("ElementMat", materials()[static_cast<size_t>(elementMaterial[t])].name);
-    field("EleExpanCoef", "EleExpanCoefU", p + 4);
-    text("TapType", captionWithoutAccelerator(tapCaptions()[static_cast<size_t>(meterTap[t])]));
-    field("PipeDiameter", "PipeDiameterU", p + 5);
-    text("PipeMat", materials()[static_cast<size_t>(pipeMaterial[t])].name);
-    field("PipeExpanCoef", "PipeExpanU", p + 6);
-    const int d = tab == 0 ? 0 : 6; // first result display of the tab
-    text("BetaRatio", txtDisplay[static_cast<size_t>(d)]);
-    text("DisCd", txtDisplay[static_cast<size_t>(d + 1)]);
-    text("RenbD", txtDisplay[static_cast<size_t>(d + 2)]);
-    text("Rensd", txtDisplay[static_cast<size_t>(d + 3)]);
-    if (tab == 1) {
-        text("GasExpan", txtDisplay[10]);
-        text("PressRatio", txtDisplay[11]);
-    }
-    text("MinLoss", txtDisplay[tab == 0 ? 4 : 12]);
-    field("VelocityD", "VelDU", p + 7);
-    field("Velocitysd", "VelsdU", p + 8);
-    field("PressLoss", "PressLossU", p + 9);
-    printer.print(tab == 0 ? DataSheetReport{"ORPLiquid", "orpliquid.rpt", "Orifice Plate - Liquid Flow"}
-                           : DataSheetReport{"ORPGas", "orpgas.rpt", "Orifice Plate - Gas/Vapor Flow"},
-                  std::move(row));
 }
 
 } // namespace kestrova

@@ -1,91 +1,36 @@
+// The orifice plate tool's events: load and activation, field commits, unit
+// lists, the Compute and Pressure Taps options, the materials, the data
+// buttons, reset and closing, and the calculation after each change.
+
 #include "tools/orifice/model/orifice_model.h"
 
-#include "units/field_kinds.h"
-#include "forms/store/global_units.h"
-#include "units/unit_field.h"
 #include "forms/model/user_interface.h"
-#include "numeric/field_text.h"
+#include "forms/store/global_units.h"
 #include "numeric/display_mask.h"
+#include "numeric/field_text.h"
 #include "tools/properties/model/phys_props.h"
 
 #include <algorithm>
 
 namespace kestrova {
 
-namespace {
+using namespace orifice;
 
-// The tool's own masks for a pressure drop and a gas density.
-const FieldKind kPressureDrop{"Pressure Drop", PressureToUnit, PressureFromUnit,
-                              {"##,##0.00", "##,##0.0000", "##,##0.00", "##,##0.0", "##,##0.0", "##,##0.000", "##,##0.0",
-                               "##,##0.0000"}};
-const FieldKind kGasDensity{"Density", DensityToUnit, DensityFromUnit,
-                            {"##,##0.0000", "##,##0.0000", "##,##0.0000", "##,##0.000"}};
-const FieldKind kExpansion{"Expansion Coef", ExpansionToUnit, ExpansionFromUnit, sameMask("0.00E+00")};
-// The permanent loss has one mask in every unit of its list.
-const FieldKind kPermanentLoss{"Pressure Drop", PressureToUnit, PressureFromUnit, sameMask("##,##0.00")};
-
-struct OrificeField {
-    const FieldKind* kind;
-    Single OrificeData::*member;
-    bool expansion; // the expansion lists follow the temperature global
-    Quantity quantity;
-};
-
-using O = OrificeData;
-using Q = Quantity;
-namespace k = field_kinds;
-
-// txtData(i) with cboUnits(i): liquid 0 to 13, gas 14 to 28. Both tabs have
-// the same rows, but the gas tab has the inlet pressure before its density.
-std::array<OrificeField, OrificeModel::kFields> makeFieldTable()
-{
-    std::array<OrificeField, OrificeModel::kFields> table{};
-    for (int tab = 0; tab < 2; ++tab) {
-        const bool gas = tab == 1;
-        auto row = table.begin() + (gas ? 14 : 0);
-        *row++ = {&k::flow, gas ? &O::gasFlow : &O::liquidFlow, false, Q::Flow};
-        *row++ = {&kPressureDrop, &O::differentialPressure, false, Q::PressureDrop};
-        *row++ = {&k::diameter, &O::orificeDiameter, false, Q::Diameter};
-        *row++ = {&k::temperature, &O::temperature, false, Q::Temperature};
-        if (gas)
-            *row++ = {&k::pressure, &O::inletPressure, false, Q::Pressure};
-        *row++ = {gas ? &kGasDensity : &k::density, gas ? &O::gasDensity : &O::liquidDensity, false, Q::Density};
-        *row++ = {&k::viscosity, gas ? &O::gasViscosity : &O::liquidViscosity, false, Q::Viscosity};
-        *row++ = {&k::temperature, &O::referenceTemperature, false, Q::Temperature};
-        *row++ = {&k::diameter, &O::holeDiameter, false, Q::Diameter};
-        *row++ = {&kExpansion, &O::elementExpansion, true, Q::Temperature};
-        *row++ = {&k::diameter, &O::pipeID, false, Q::Diameter};
-        *row++ = {&kExpansion, &O::pipeExpansion, true, Q::Temperature};
-        *row++ = {&k::velocity, &O::velocityPipe, false, Q::Velocity};
-        *row++ = {&k::velocity, &O::velocityOrifice, false, Q::Velocity};
-        // The permanent loss takes the pressure global, though its list is the pressure drop's.
-        *row++ = {&kPermanentLoss, &O::permanentLoss, false, Q::Pressure};
-    }
-    return table;
-}
-const std::array<OrificeField, OrificeModel::kFields> kFieldTable = makeFieldTable();
-
-// The coefficient fields of the materials: element and pipe, on each tab.
-constexpr std::array<int, 2> kElementExpansionField{8, 23}, kPipeExpansionField{10, 25};
-constexpr int kLiquidFirstSolved = 0, kGasFirstSolved = 14;
-
-// The calculation's output lands in the model's texts.
-class ModelDisplay : public OrificeDisplay {
+// The calculation's output lands in the tool's controls.
+class OrificeResults : public OrificeDisplay {
 public:
-    explicit ModelDisplay(OrificeModel& model) : model_(model) {}
+    explicit OrificeResults(OrificeModel& model) : model_(model) {}
     void showDisplay(int index, const std::string& text) override
     {
-        model_.txtDisplay.at(static_cast<size_t>(index)) = text;
+        model_.txtDisplay.at(static_cast<size_t>(index)).text = text;
     }
     void refresh(int field) override { model_.showField(field); }
-    void showErrorLiquid(const std::string& text) override { model_.txtErrorLiquid = text; }
-    void showErrorGas(const std::string& text) override { model_.txtErrorGas = text; }
+    void showErrorLiquid(const std::string& text) override { model_.txtErrorLiquid.text = text; }
+    void showErrorGas(const std::string& text) override { model_.txtErrorGas.text = text; }
 
 private:
     OrificeModel& model_;
 };
-
-} // namespace
 
 const std::array<OrificeModel::Material, OrificeModel::kMaterials>& OrificeModel::materials()
 {
@@ -99,8 +44,6 @@ const std::array<OrificeModel::Material, OrificeModel::kMaterials>& OrificeModel
     return table;
 }
 
-OrificeModel::OrificeModel(UserInterface& ui, QObject* parent) : FormModel(parent), ui_(ui) {}
-
 // Setting the options and the materials runs their click routines, and so
 // the calculation on the empty record: the window opens with the liquid
 // tab's message of a pipe ID of zero.
@@ -110,11 +53,11 @@ void OrificeModel::Form_Load()
     const BusyPointer busy(ui_);
     optCompute_Click(0);
     optMeterTap_Click(0);
-    txtErrorLiquid.clear();
-    txtErrorGas.clear();
+    txtErrorLiquid.text.clear();
+    txtErrorGas.text.clear();
     selectDefaultMaterials();
     record.referenceTemperature = 68;
-    showField(6);
+    showField(LiquidReferenceTemperature);
     dirty = false;
     ui_.setToolbarButtonEnabled("Save", true);
 }
@@ -137,8 +80,9 @@ void OrificeModel::Form_Activate()
     const UnitIndex temperature = globalUnits()[Quantity::Temperature];
     const UnitIndex expansion = (temperature == 0 || temperature == 2) ? 0 : 1;
     for (int i = 0; i < kFields; ++i) {
-        const OrificeField& f = kFieldTable[static_cast<size_t>(i)];
-        cboUnits[static_cast<size_t>(i)] = f.expansion ? expansion : globalUnits()[f.quantity];
+        const FieldBinding<OrificeData>& f = orificeField(i);
+        const bool coefficient = f.kind == orificeField(LiquidElementExpansion).kind;
+        cboUnits[static_cast<size_t>(i)].listIndex = coefficient ? expansion : globalUnits()[f.setup];
         showField(i);
     }
     ui_.setToolbarButtonEnabled("Print", true);
@@ -154,6 +98,7 @@ void OrificeModel::SSTab1_Click(int newTab)
     compute[static_cast<size_t>(shown)] = compute[static_cast<size_t>(tab)];
     meterTap[static_cast<size_t>(shown)] = meterTap[static_cast<size_t>(tab)];
     tab = shown;
+    showChoices();
 }
 
 void OrificeModel::setUnit(int field, UnitIndex unit)
@@ -161,7 +106,7 @@ void OrificeModel::setUnit(int field, UnitIndex unit)
     if (field < 0 || field >= kFields)
         return;
     ChangeNotice notice(*this);
-    cboUnits[static_cast<size_t>(field)] = unit;
+    cboUnits[static_cast<size_t>(field)].listIndex = unit;
     showField(field);
 }
 
@@ -169,19 +114,18 @@ void OrificeModel::showField(int field)
 {
     if (field < 0 || field >= kFields)
         return;
-    const OrificeField& f = kFieldTable[static_cast<size_t>(field)];
-    const std::string text = unitFieldText(*f.kind, record.*f.member, cboUnits[static_cast<size_t>(field)]);
-    if (!text.empty())
-        txtData[static_cast<size_t>(field)] = text;
+    const auto i = static_cast<size_t>(field);
+    showUnitField(orificeField(field), record, cboUnits[i], txtData[i]);
 }
 
-void OrificeModel::commitFieldText(int field)
+void OrificeModel::commitFieldText(int field, const std::string& text)
 {
     if (field < 0 || field >= kFields)
         return;
-    const OrificeField& f = kFieldTable[static_cast<size_t>(field)];
-    record.*f.member = unitFieldValue(*f.kind, txtData[static_cast<size_t>(field)], cboUnits[static_cast<size_t>(field)]);
-    showField(field);
+    ChangeNotice notice(*this);
+    const auto i = static_cast<size_t>(field);
+    txtData[i].text = text;
+    commitUnitField(orificeField(field), record, cboUnits[i], txtData[i]);
 }
 
 void OrificeModel::txtData_LostFocus(int field)
@@ -189,29 +133,38 @@ void OrificeModel::txtData_LostFocus(int field)
     if (field < 0 || field >= kFields)
         return;
     ChangeNotice notice(*this);
-    commitFieldText(field);
+    const auto i = static_cast<size_t>(field);
+    commitUnitField(orificeField(field), record, cboUnits[i], txtData[i]);
     ComputeOrifice();
 }
 
 void OrificeModel::txtDisplay_LostFocus(int index)
 {
-    if (index != 5)
+    if (index != HeatCapacityRatio)
         return;
     ChangeNotice notice(*this);
-    record.heatCapacityRatio = fieldSingleOr0(txtDisplay[5]);
+    commitDisplayText(index, txtDisplay[HeatCapacityRatio].text);
     setDirty();
     ComputeOrifice();
 }
 
-const char* OrificeModel::unitTagOf(int field)
+// k is the only display that takes typing.
+void OrificeModel::commitDisplayText(int index, const std::string& text)
 {
-    return kFieldTable.at(static_cast<size_t>(field)).kind->tag;
+    if (index < 0 || index >= kDisplays)
+        return;
+    ChangeNotice notice(*this);
+    txtDisplay[static_cast<size_t>(index)].text = text;
+    if (index == HeatCapacityRatio)
+        record.heatCapacityRatio = fieldSingleOr0(text);
 }
 
-bool OrificeModel::fieldLocked(int field) const
+void OrificeModel::useRecord(const OrificeData& taken)
 {
-    const bool gas = field >= kGasFirstSolved;
-    return field - (gas ? kGasFirstSolved : kLiquidFirstSolved) == compute[gas ? 1 : 0];
+    ChangeNotice notice(*this);
+    record = taken;
+    for (int i = 0; i < kFields; ++i)
+        showField(i);
 }
 
 void OrificeModel::optCompute_Click(int option)
@@ -220,6 +173,7 @@ void OrificeModel::optCompute_Click(int option)
         return;
     ChangeNotice notice(*this);
     compute[static_cast<size_t>(option / 3)] = option % 3;
+    showChoices();
     setDirty();
     ComputeOrifice();
 }
@@ -230,6 +184,7 @@ void OrificeModel::optMeterTap_Click(int option)
         return;
     ChangeNotice notice(*this);
     meterTap[static_cast<size_t>(option / 3)] = option % 3;
+    showChoices();
     setDirty();
     ComputeOrifice();
 }
@@ -253,18 +208,19 @@ void OrificeModel::chooseMaterial(int tabIndex, int material, std::array<int, 2>
         return;
     ChangeNotice notice(*this);
     chosen[static_cast<size_t>(tabIndex)] = material;
+    showChoices();
     coefficient = materials()[static_cast<size_t>(material)].coefficient;
     const int field = coefficientFields[static_cast<size_t>(tabIndex)];
     showField(field);
     if (material == kMaterials - 1)
-        focusRequest = "txtData(" + std::to_string(field) + ")";
+        requestFocus(orifice::txtData(field));
     ComputeOrifice();
 }
 
 void OrificeModel::ComputeOrifice()
 {
     ChangeNotice notice(*this);
-    ModelDisplay display(*this);
+    OrificeResults display(*this);
     const auto shown = static_cast<size_t>(tab);
     kestrova::ComputeOrifice(record, tab == 0 ? OrificeFluid::Liquid : OrificeFluid::Gas,
                              static_cast<OrificeUnknown>(compute[shown]), static_cast<TapStyle>(meterTap[shown]), display);
@@ -294,15 +250,15 @@ void OrificeModel::cmdProperties_Click(int index)
         if (index == 0) {
             record.liquidDensity = props.liquidDensity;
             record.liquidViscosity = props.liquidViscosity;
-            showField(4);
-            showField(5);
+            showField(LiquidDensity);
+            showField(LiquidViscosity);
             if (!props.liquidName.empty())
-                propertiesCaption[0] = "Properties:  " + (liquidName = props.liquidName);
+                Frame1[kPropertiesFrame[LiquidTab]].caption = "Properties:  " + (liquidName = props.liquidName);
         } else {
             record.gasViscosity = props.vaporViscosity;
-            showField(20);
+            showField(GasViscosity);
             if (!props.gasName.empty())
-                propertiesCaption[1] = "Properties:  " + (gasName = props.gasName);
+                Frame1[kPropertiesFrame[GasTab]].caption = "Properties:  " + (gasName = props.gasName);
         }
     }
     setDirty();
@@ -317,20 +273,19 @@ void OrificeModel::cmdTable_Click(int index)
         const Single id = ui_.SelectPipeID("ID");
         if (id != 0) {
             record.pipeID = id;
-            showField(9);
-            showField(24);
+            showField(LiquidPipeID);
+            showField(GasPipeID);
         }
     } else if (index == 2) {
         const Single k = ui_.GetHeatCapRatioValue(record.temperature, record.inletPressure);
         if (k != 0) { // written as text to k's field, whose change handler then runs
-            txtDisplay[5] = plainNumberText(k);
-            record.heatCapacityRatio = fieldSingleOr0(txtDisplay[5]);
+            commitDisplayText(HeatCapacityRatio, plainNumberText(k));
         }
     } else {
         const Single density = ui_.GetGasDensity(record.temperature, record.inletPressure);
         if (density != 0) {
             record.gasDensity = density;
-            showField(19);
+            showField(GasDensity);
         }
     }
     setDirty();
@@ -354,7 +309,7 @@ void OrificeModel::cmdReset_Click()
 void OrificeModel::reset()
 {
     record.referenceTemperature = 68;
-    showField(6);
+    showField(LiquidReferenceTemperature);
     caption = kTitle;
     const OrificeData kept = record;
     record = OrificeData{};
@@ -367,15 +322,17 @@ void OrificeModel::reset()
     selectDefaultMaterials();
     for (int i = 0; i < kFields; ++i)
         showField(i);
-    for (std::string& text : txtDisplay)
-        text.clear();
+    for (TextControl& display : txtDisplay)
+        display.text.clear();
     for (int option : {0, 3}) {
         optCompute_Click(option);
         optMeterTap_Click(option);
     }
-    propertiesCaption = {"Properties", "Properties"};
-    txtProject = {};
-    txtTag = {};
+    for (int frame : kPropertiesFrame)
+        Frame1[static_cast<size_t>(frame)].caption = "Properties";
+    for (auto* texts : {&txtProject, &txtTag})
+        for (TextControl& text : *texts)
+            text.text.clear();
     setDirty();
     fileName_.clear();
 }

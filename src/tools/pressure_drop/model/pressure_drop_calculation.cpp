@@ -13,6 +13,7 @@
 
 namespace kestrova {
 
+using namespace pressure_drop;
 using checked::Div;
 using checked::Pow;
 
@@ -76,8 +77,8 @@ void PressureDropModel::CalculateResults()
     try {
         FaultScope scope("CalculateResults");
         switch (tab) {
-        case 0: calculateLiquid(); break;
-        case 1: calculateGas(); break;
+        case LiquidTab: calculateLiquid(); break;
+        case GasTab: calculateGas(); break;
         default: calculateTwoPhase(); break;
         }
     } catch (const NumericFault&) {
@@ -88,12 +89,12 @@ void PressureDropModel::CalculateResults()
 void PressureDropModel::failureHandler()
 {
     failed = true;
-    for (int frame : {5, 8}) {
+    for (int frame : {GasResultsFrame, TwoPhaseResultsFrame}) {
         Frame1[static_cast<size_t>(frame)].red = false;
         Frame1[static_cast<size_t>(frame)].caption = "Calculated Results";
     }
     record.PressureDrop = 0.0;
-    for (int field : {41, 24, 10})
+    for (int field : {TwoPhasePressureDrop, GasPressureDrop, LiquidPressureDrop})
         showField(field);
 }
 
@@ -112,26 +113,26 @@ void PressureDropModel::calculateLiquid()
     const Single rho = r.LiquidDensity;
     const SectionFlow flow = flowThroughSection(section, r.LiquidFlow, rho, r.Diameter, r.ConduitWidth, r.ConduitHeight);
     r.Velocity = flow.velocity;
-    showField(9);
+    showField(LiquidVelocity);
 
     const SectionArguments s = sectionArguments(section, r.ConduitWidth, r.ConduitHeight);
     const Single viscosity = r.LiquidViscosity * 1000;
     const Single re = ReynoldsNumber(rho, r.Diameter, r.Velocity, viscosity, s.kind, s.p, s.q);
-    txtDisplay[1].text = formatMask(re, "#,###,###");
+    txtDisplay[LiquidReynolds].text = formatMask(re, "#,###,###");
     if (re >= 2100 || re > 0)
-        txtDisplay[2].text = regimeWord(re);
+        txtDisplay[LiquidRegime].text = regimeWord(re);
     else if (re == 0)
-        txtDisplay[2].text.clear();
+        txtDisplay[LiquidRegime].text.clear();
 
     const Single roughness = Div(r.Roughness * 12, r.Diameter);
     const Single f = FrictionFactor(re, roughness, s.kind, s.aspectRatio, s.diameterRatio);
-    txtDisplay[3].text = formatMask(f, "0.00000");
+    txtDisplay[LiquidFriction].text = formatMask(f, "0.00000");
     const Single straight = StraightRunDrop(f, r.PipeLength, r.Diameter, r.Velocity);
-    const Single K = totalK(0, 12, 18, re, r.Diameter);
+    const Single K = totalK(LiquidK1, LiquidK2, LiquidK3, re, r.Diameter);
     const Single fittings = MinorLossDrop(K, r.Velocity);
     r.PressureDrop = (fittings + straight) * rho / 144;
     r.PressureDrop = r.PressureDrop + r.ElevationChange * rho / 144;
-    showField(10);
+    showField(LiquidPressureDrop);
 }
 
 void PressureDropModel::calculateGas()
@@ -141,21 +142,21 @@ void PressureDropModel::calculateGas()
     const Single Z = r.Compressibility;
     const Single MW = r.MolecularWeight;
     r.GasDensity = Z != 0 ? Div(MW * r.InletPressure, (T1 + kRankine) * (Z * kGasConstantPsia)) : 0.0;
-    showField(20);
+    showField(InletDensity);
 
     const int section = crossSectionGas - 3;
     const SectionFlow flow = flowThroughSection(section, r.GasFlow, r.GasDensity, r.Diameter, r.ConduitWidth, r.ConduitHeight);
     r.Velocity = flow.velocity;
     const Single area = flow.area;
-    showField(18);
+    showField(InletVelocity);
 
     const Single roughness = Div(r.Roughness * 12, r.Diameter);
     const SectionArguments s = sectionArguments(section, r.ConduitWidth, r.ConduitHeight);
     const Single re = ReynoldsNumber(r.GasDensity, r.Diameter, r.Velocity, r.VaporViscosity * 1000, s.kind, s.p, s.q);
-    txtDisplay[8].text = formatMask(re, "#,###,###");
+    txtDisplay[GasReynolds].text = formatMask(re, "#,###,###");
     const Single f = FrictionFactor(re, roughness, s.kind, s.aspectRatio, s.diameterRatio);
-    txtDisplay[9].text = formatMask(f, "0.00000");
-    const Single K = totalK(7, 19, 20, re, r.Diameter);
+    txtDisplay[GasFriction].text = formatMask(f, "0.00000");
+    const Single K = totalK(GasK1, GasK2, GasK3, re, r.Diameter);
     const Single pipeResistance = Div(f * r.PipeLength, r.Diameter / 12);
 
     const GasLineInlet inlet{r.GasFlow, area, T1, r.InletPressure, Z, MW, r.HeatCapacityRatio, pipeResistance, K};
@@ -179,22 +180,22 @@ void PressureDropModel::calculateGas()
         keepOutlet();
         throw;
     }
-    showField(23);
+    showField(ExitTemperature);
 
-    FrameControl& results = Frame1[5];
+    FrameControl& results = Frame1[GasResultsFrame];
     const bool subsonic = outlet.flowType == kFlowSubsonic;
     results.bold = !subsonic;
     results.red = !subsonic;
     results.caption = "Calculated Results, Flow Type = " + outlet.flowType;
-    txtDisplay[10].text = formatMask(outlet.inletMach, "#0.0000");
-    txtDisplay[11].text = formatMask(outlet.outletMach, "#0.0000");
+    txtDisplay[InletMach].text = formatMask(outlet.inletMach, "#0.0000");
+    txtDisplay[OutletMach].text = formatMask(outlet.outletMach, "#0.0000");
 
     r.ExitDensity = Div(MW * r.ExitPressure, (T1 + kRankine) * (Z * kGasConstantPsia));
     r.ExitVelocity = Div(r.GasFlow, r.ExitDensity * 3600 * area);
-    for (int field : {19, 21, 22, 25})
+    for (int field : {ExitVelocity, ExitDensity, SonicVelocity, ExitPressure})
         showField(field);
     r.PressureDrop = r.InletPressure - r.ExitPressure;
-    showField(24);
+    showField(GasPressureDrop);
 }
 
 void PressureDropModel::calculateTwoPhase()
@@ -210,7 +211,7 @@ void PressureDropModel::calculateTwoPhase()
         r.PressureDrop = *out.pressureDrop;
     lastMapCoordinates = out.mapCoordinates;
 
-    FrameControl& results = Frame1[8];
+    FrameControl& results = Frame1[TwoPhaseResultsFrame];
     results.bold = false;
     if (out.correlation == "Friedel" || out.correlation == "Chisholm-Baroczy" || out.correlation == "Lockhart-Martinelli") {
         results.red = false;
@@ -222,30 +223,30 @@ void PressureDropModel::calculateTwoPhase()
     }
 
     r.Velocity = FlowVelocity(r.LiquidFlow, r.LiquidDensity, r.Diameter);
-    showField(36);
+    showField(TwoPhaseLiquidVelocity);
     const Single liquidRe = ReynoldsNumber(r.LiquidDensity, r.Diameter, r.Velocity, r.LiquidViscosity * 1000, 1, 1.0, 1.0);
-    txtDisplay[16].text = formatMask(liquidRe, "###,###,###");
+    txtDisplay[TwoPhaseLiquidReynolds].text = formatMask(liquidRe, "###,###,###");
     r.ExitVelocity = FlowVelocity(r.GasFlow, r.VaporDensity, r.Diameter);
-    showField(37);
+    showField(TwoPhaseVaporVelocity);
     const Single vapourRe = ReynoldsNumber(r.VaporDensity, r.Diameter, r.ExitVelocity, r.VaporViscosity * 1000, 1, 1.0, 1.0);
-    txtDisplay[13].text = formatMask(vapourRe, "###,###,###");
+    txtDisplay[TwoPhaseVaporReynolds].text = formatMask(vapourRe, "###,###,###");
     // These two factors are shown nowhere, but a phase without flow ends the run here.
     const Single roughnessRatio = Div(r.Roughness, r.Diameter);
     FrictionFactor(liquidRe, roughnessRatio, 1, 1.0, 1.0);
     FrictionFactor(vapourRe, roughnessRatio, 1, 1.0, 1.0);
 
-    txtDisplay[14].text = liquidRe >= 2100 ? "Turbulent" : liquidRe > 0 ? "Laminar" : "";
+    txtDisplay[TwoPhaseLiquidRegime].text = liquidRe >= 2100 ? "Turbulent" : liquidRe > 0 ? "Laminar" : "";
     // Below 2100 the vapour's word follows the liquid's Reynolds number.
-    txtDisplay[15].text = vapourRe >= 2100 ? "Turbulent" : liquidRe > 0 ? "Laminar" : "";
+    txtDisplay[TwoPhaseVaporRegime].text = vapourRe >= 2100 ? "Turbulent" : liquidRe > 0 ? "Laminar" : "";
 
     r.AverageDensity = out.homogeneousDensity;
-    showField(38);
+    showField(AverageDensity);
     r.AverageViscosity = out.homogeneousViscosity;
-    showField(39);
+    showField(AverageViscosity);
     r.AverageVelocity = Div(Div(r.LiquidFlow + r.GasFlow, r.AverageDensity) / 3600, Pow(r.Diameter / 12, 2) * (kPi / 4));
-    showField(40);
-    txtDisplay[17].text = out.regime;
-    showField(41);
+    showField(AverageVelocity);
+    txtDisplay[TwoPhaseRegime].text = out.regime;
+    showField(TwoPhasePressureDrop);
 }
 
 } // namespace kestrova

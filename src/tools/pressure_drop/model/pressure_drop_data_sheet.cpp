@@ -8,6 +8,8 @@
 
 namespace kestrova {
 
+using namespace pressure_drop;
+
 namespace {
 
 const std::array<DataSheetReport, 3> kReports{{
@@ -28,102 +30,135 @@ struct FieldColumns {
     int field;
 };
 
+// The row of a data sheet taken from the controls as they stand.
+class SheetRow {
+public:
+    SheetRow(const PressureDropState& form, DataSheetColumns& row) : form_(form), row_(row) {}
+
+    void text(const char* column, const std::string& value) { row_.emplace_back(column, value); }
+    void fields(std::initializer_list<FieldColumns> columns)
+    {
+        for (const FieldColumns& c : columns) {
+            text(c.value, form_.txtData[static_cast<size_t>(c.field)].text);
+            if (c.unit)
+                text(c.unit, unitText(c.field));
+        }
+    }
+    void display(const char* column, int index) { text(column, form_.txtDisplay[static_cast<size_t>(index)].text); }
+    // A section's dimensions that do not apply go as the number 0, their units still from the lists.
+    void dimension(const char* column, const char* unit, int field, bool applies)
+    {
+        text(column, applies ? form_.txtData[static_cast<size_t>(field)].text : "0");
+        text(unit, unitText(field));
+    }
+    void heading(int tab)
+    {
+        text("Project", form_.txtProject[static_cast<size_t>(tab)].text);
+        text("Tag", form_.txtTag[static_cast<size_t>(tab)].text);
+    }
+
+private:
+    std::string unitText(int field) const
+    {
+        const std::vector<std::string>& list = unitList(pressureDropField(field).kind->tag);
+        const UnitIndex index = form_.cboUnits[static_cast<size_t>(field)].listIndex;
+        return index >= 0 && index < static_cast<int>(list.size()) ? list[static_cast<size_t>(index)] : std::string();
+    }
+
+    const PressureDropState& form_;
+    DataSheetColumns& row_;
+};
+
 } // namespace
 
 void PressureDropModel::PrintDataSheet(const DataSheetPrinter& printer)
 {
     DataSheetColumns row;
-    const auto text = [&](const char* column, const std::string& value) { row.emplace_back(column, value); };
-    const auto unitText = [&](int field) {
-        const std::vector<std::string>& list = unitList(pressureDropField(field).kind->tag);
-        const UnitIndex index = cboUnits[static_cast<size_t>(field)].listIndex;
-        return index >= 0 && index < static_cast<int>(list.size()) ? list[static_cast<size_t>(index)] : std::string();
-    };
-    const auto fields = [&](std::initializer_list<FieldColumns> columns) {
-        for (const FieldColumns& c : columns) {
-            text(c.value, txtData[static_cast<size_t>(c.field)].text);
-            if (c.unit)
-                text(c.unit, unitText(c.field));
-        }
-    };
-    const auto display = [&](const char* column, int index) { text(column, txtDisplay[static_cast<size_t>(index)].text); };
-    // A section's dimensions that do not apply go as the number 0, their units still from the lists.
-    const auto dimension = [&](const char* column, const char* unit, int field, bool applies) {
-        text(column, applies ? txtData[static_cast<size_t>(field)].text : "0");
-        text(unit, unitText(field));
-    };
-
     switch (tab) {
-    case 0: {
-        const bool circular = crossSectionLiquid == 0;
-        text("Project", txtProject[0].text);
-        text("Tag", txtTag[0].text);
-        text("Fluid", liquidName);
-        fields({{"Temp", "TUnits", 44}, {"Flowrate", "FUnits", 0}, {"Density", "DUnits", 1}, {"Viscosity", "VisUnits", 2}});
-        text("CrossSection", captionWithoutAccelerator(kCrossSectionCaptions[static_cast<size_t>(crossSectionLiquid)]));
-        dimension("Width", "WidthU", 3, !circular);
-        dimension("Height", "HeightU", 4, !circular);
-        dimension("Diameter", "DiameterU", 5, circular);
-        fields({{"Roughness", "RoughnessU", 6}, {"Elevation", "ElevationU", 7}, {"Length", "LengthU", 8}});
-        display("K1", 0);
-        display("K2", 12);
-        display("K3", 18);
-        display("rE", 1);
-        display("Regime", 2);
-        display("fd", 3);
-        fields({{"FVelocity", "FVelocityU", 9}, {"PD", "PdU", 10}});
-        break;
-    }
-    case 1: {
-        const int section = crossSectionGas - 3;
-        const bool circular = section == 0;
-        text("Project", txtProject[1].text);
-        text("Tag", txtTag[1].text);
-        text("CalcType", kCalcTypeCaptions[static_cast<size_t>(calcType)]);
-        text("Fluid", gasName);
-        fields({{"Flowrate", "FUnits", 11}, {"Pin", "PinU", 12}, {"Tin", "TinU", 13}, {"Viscosity", "VisUnits", 14}});
-        display("MW", 4);
-        display("z", 5);
-        display("k", 6);
-        text("CrossSection", captionWithoutAccelerator(kCrossSectionCaptions[static_cast<size_t>(section)]));
-        dimension("Width", "WidthU", 43, !circular);
-        dimension("Height", "HeightU", 42, !circular);
-        dimension("Diameter", "DiameterU", 15, circular);
-        fields({{"Roughness", "RoughnessU", 16}});
-        display("K1", 7);
-        display("K2", 19);
-        display("K3", 20);
-        display("rE", 8);
-        display("fd", 9);
-        display("MachIn", 10);
-        display("MachOut", 11);
-        fields({{"FlowVelin", "FlowVelinU", 18}, {"FlowVelexit", "FlowVelexitU", 19}, {"InletDen", "InletDenU", 20},
-                {"ExitDen", "ExitDenU", 21}, {"ExitT", "ExitTU", 23}, {"SonicVel", "SonicVelU", 22},
-                {"ExitP", "ExitPU", 25}, {"PD", "PdU", 24}, {"Length", "LengthU", 17}});
-        break;
-    }
-    default:
-        text("Project", txtProject[2].text);
-        text("Tag", txtTag[2].text);
-        fields({{"T", "TU", 45}});
-        text("LiquidFluid", liquidName);
-        text("GasFluid", gasName);
-        fields({{"LiqFlowrate", "LiqFUnits", 28}, {"GasFlowrate", "GasFUnits", 30}, {"LiqD", "LiqDU", 27},
-                {"GasD", "GasDU", 31}, {"LiqVis", "LiqVisU", 26}, {"GasVis", "GasVisU", 32},
-                {"SurTen", "SurTenU", 29}});
-        text("PipeOrient", captionWithoutAccelerator(kOrientationCaptions[static_cast<size_t>(orientation)]));
-        fields({{"Diameter", "DiameterU", 35}, {"Roughness", "RoughnessU", 34}, {"Length", "LengthU", 33}});
-        display("LiqRe", 16);
-        display("GasRe", 13);
-        display("LiqRegime", 14);
-        display("GasRegime", 15);
-        fields({{"LiqVel", "LiqVelU", 36}, {"GasVel", "GasVelU", 37}, {"AvgDen", "AvgDenU", 38},
-                {"AvgVis", "AvgVisU", 39}, {"AvgVel", "AvgVelU", 40}});
-        display("Regime", 17);
-        fields({{"PD", "PdU", 41}});
-        break;
+    case LiquidTab: liquidDataSheet(row); break;
+    case GasTab: gasDataSheet(row); break;
+    default: twoPhaseDataSheet(row); break;
     }
     printer.print(kReports[static_cast<size_t>(std::clamp(tab, 0, 2))], std::move(row));
+}
+
+void PressureDropModel::liquidDataSheet(DataSheetColumns& columns) const
+{
+    SheetRow row(view(), columns);
+    const bool circular = crossSectionLiquid == 0;
+    row.heading(LiquidTab);
+    row.text("Fluid", liquidName);
+    row.fields({{"Temp", "TUnits", LiquidTemperature}, {"Flowrate", "FUnits", LiquidFlow},
+                {"Density", "DUnits", LiquidDensity}, {"Viscosity", "VisUnits", LiquidViscosity}});
+    row.text("CrossSection", captionWithoutAccelerator(kCrossSectionCaptions[static_cast<size_t>(crossSectionLiquid)]));
+    row.dimension("Width", "WidthU", LiquidConduitWidth, !circular);
+    row.dimension("Height", "HeightU", LiquidConduitHeight, !circular);
+    row.dimension("Diameter", "DiameterU", LiquidDiameter, circular);
+    row.fields({{"Roughness", "RoughnessU", LiquidRoughness}, {"Elevation", "ElevationU", ElevationChange},
+                {"Length", "LengthU", LiquidLength}});
+    row.display("K1", LiquidK1);
+    row.display("K2", LiquidK2);
+    row.display("K3", LiquidK3);
+    row.display("rE", LiquidReynolds);
+    row.display("Regime", LiquidRegime);
+    row.display("fd", LiquidFriction);
+    row.fields({{"FVelocity", "FVelocityU", LiquidVelocity}, {"PD", "PdU", LiquidPressureDrop}});
+}
+
+void PressureDropModel::gasDataSheet(DataSheetColumns& columns) const
+{
+    SheetRow row(view(), columns);
+    const int section = crossSectionGas - 3;
+    const bool circular = section == 0;
+    row.heading(GasTab);
+    row.text("CalcType", kCalcTypeCaptions[static_cast<size_t>(calcType)]);
+    row.text("Fluid", gasName);
+    row.fields({{"Flowrate", "FUnits", GasFlow}, {"Pin", "PinU", InletPressure}, {"Tin", "TinU", InletTemperature},
+                {"Viscosity", "VisUnits", GasViscosity}});
+    row.display("MW", MolecularWeight);
+    row.display("z", Compressibility);
+    row.display("k", HeatCapacityRatio);
+    row.text("CrossSection", captionWithoutAccelerator(kCrossSectionCaptions[static_cast<size_t>(section)]));
+    row.dimension("Width", "WidthU", GasConduitWidth, !circular);
+    row.dimension("Height", "HeightU", GasConduitHeight, !circular);
+    row.dimension("Diameter", "DiameterU", GasDiameter, circular);
+    row.fields({{"Roughness", "RoughnessU", GasRoughness}});
+    row.display("K1", GasK1);
+    row.display("K2", GasK2);
+    row.display("K3", GasK3);
+    row.display("rE", GasReynolds);
+    row.display("fd", GasFriction);
+    row.display("MachIn", InletMach);
+    row.display("MachOut", OutletMach);
+    row.fields({{"FlowVelin", "FlowVelinU", InletVelocity}, {"FlowVelexit", "FlowVelexitU", ExitVelocity},
+                {"InletDen", "InletDenU", InletDensity}, {"ExitDen", "ExitDenU", ExitDensity},
+                {"ExitT", "ExitTU", ExitTemperature}, {"SonicVel", "SonicVelU", SonicVelocity},
+                {"ExitP", "ExitPU", ExitPressure}, {"PD", "PdU", GasPressureDrop}, {"Length", "LengthU", GasLength}});
+}
+
+void PressureDropModel::twoPhaseDataSheet(DataSheetColumns& columns) const
+{
+    SheetRow row(view(), columns);
+    row.heading(TwoPhaseTab);
+    row.fields({{"T", "TU", TwoPhaseTemperature}});
+    row.text("LiquidFluid", liquidName);
+    row.text("GasFluid", gasName);
+    row.fields({{"LiqFlowrate", "LiqFUnits", TwoPhaseLiquidFlow}, {"GasFlowrate", "GasFUnits", TwoPhaseVaporFlow},
+                {"LiqD", "LiqDU", TwoPhaseLiquidDensity}, {"GasD", "GasDU", TwoPhaseVaporDensity},
+                {"LiqVis", "LiqVisU", TwoPhaseLiquidViscosity}, {"GasVis", "GasVisU", TwoPhaseVaporViscosity},
+                {"SurTen", "SurTenU", SurfaceTension}});
+    row.text("PipeOrient", captionWithoutAccelerator(kOrientationCaptions[static_cast<size_t>(orientation)]));
+    row.fields({{"Diameter", "DiameterU", TwoPhaseDiameter}, {"Roughness", "RoughnessU", TwoPhaseRoughness},
+                {"Length", "LengthU", TwoPhaseLength}});
+    row.display("LiqRe", TwoPhaseLiquidReynolds);
+    row.display("GasRe", TwoPhaseVaporReynolds);
+    row.display("LiqRegime", TwoPhaseLiquidRegime);
+    row.display("GasRegime", TwoPhaseVaporRegime);
+    row.fields({{"LiqVel", "LiqVelU", TwoPhaseLiquidVelocity}, {"GasVel", "GasVelU", TwoPhaseVaporVelocity},
+                {"AvgDen", "AvgDenU", AverageDensity}, {"AvgVis", "AvgVisU", AverageViscosity},
+                {"AvgVel", "AvgVelU", AverageVelocity}});
+    row.display("Regime", TwoPhaseRegime);
+    row.fields({{"PD", "PdU", TwoPhasePressureDrop}});
 }
 
 } // namespace kestrova

@@ -14,6 +14,8 @@
 
 namespace kestrova {
 
+using namespace pressure_drop;
+
 namespace {
 
 constexpr std::int16_t kPressureDropKind = 2;
@@ -124,7 +126,7 @@ bool PressureDropModel::openFile()
     // The tab and the options, each through its click routine.
     SSTab1_Click(file.tab);
     const int section = std::clamp<int>(file.crossSection, 0, 5);
-    optCrossSection_Click(tab == 0 ? section % 3 : 3 + section % 3);
+    optCrossSection_Click(tab == LiquidTab ? section % 3 : 3 + section % 3);
     optCalcType_Click(std::clamp<int>(file.calcType, 0, 1));
     optOrientation_Click(std::clamp<int>(file.orientation, 0, 2));
 
@@ -143,18 +145,19 @@ bool PressureDropModel::openFile()
 
     liquidName = file.liquidName;
     gasName = file.gasName;
-    Frame1[0].caption = "Fluid Data:  " + liquidName;
-    Frame1[3].caption = "Fluid Data:  " + gasName;
+    Frame1[LiquidFluidFrame].caption = "Fluid Data:  " + liquidName;
+    Frame1[GasFluidFrame].caption = "Fluid Data:  " + gasName;
     txtLiquid.text = liquidName;
     txtGas.text = gasName;
+    showFluidNames();
 
     minorLossStore().hasData[0] = true;
     showKSums();
-    for (int i = 0; i <= 43; ++i)
+    for (int i = 0; i <= GasConduitWidth; ++i)
         showField(i);
-    txtDisplay[4].text = plainNumberText(record.MolecularWeight);
-    txtDisplay[5].text = plainNumberText(record.Compressibility);
-    txtDisplay[6].text = plainNumberText(record.HeatCapacityRatio);
+    txtDisplay[MolecularWeight].text = plainNumberText(record.MolecularWeight);
+    txtDisplay[Compressibility].text = plainNumberText(record.Compressibility);
+    txtDisplay[HeatCapacityRatio].text = plainNumberText(record.HeatCapacityRatio);
     CalculateResults();
     return true;
 }

@@ -3,8 +3,8 @@
 
 #include "tools/pressure_drop/model/pressure_drop_model.h"
 
-#include "forms/store/global_units.h"
 #include "forms/model/user_interface.h"
+#include "forms/store/global_units.h"
 #include "numeric/display_mask.h"
 #include "numeric/field_text.h"
 #include "numeric/numeric_fault.h"
@@ -15,13 +15,10 @@
 
 namespace kestrova {
 
+using namespace pressure_drop;
+
 namespace {
 
-constexpr std::array<int, 3> kLiquidKFields{0, 12, 18};
-constexpr std::array<int, 3> kGasKFields{7, 19, 20};
-constexpr int kLiquidTab = 0, kGasTab = 1, kTwoPhaseTab = 2;
-constexpr const char* kArrowCaption = "\u279C"; // the regime map can be opened
-constexpr const char* kCrossCaption = "\u2716"; // no map for downflow
 
 // The controls of one tab's cross section options.
 struct SectionControls {
@@ -30,43 +27,35 @@ struct SectionControls {
     const char* widthCaption;
     const char* heightCaption;
     std::array<int, 3> kFields;
-    int pipeTable, roughnessTable, minorLossTable, odTable, idTable;
+    int pipeTable, roughnessTable, minorLossTable, outerTable, innerTable;
 };
 
-const SectionControls kLiquidSection{5,  3,  4, 3, 4, 7, 9, "Width of Conduit:", "Height of Conduit:", kLiquidKFields,
-                                     0,  1,  2, 3, 4};
-const SectionControls kGasSection{15, 43, 42, 19, 43, 52, 28, "Width:", "Height:", kGasKFields, 6, 7, 8, 14, 10};
+const SectionControls kLiquidSection{LiquidDiameter, LiquidConduitWidth, LiquidConduitHeight, 3, 4, 7, 9,
+                                     "Width of Conduit:", "Height of Conduit:", kLiquidKFields, LiquidPipeTable,
+                                     LiquidRoughnessTable, LiquidMinorLossTable, LiquidOuterTable, LiquidInnerTable};
+const SectionControls kGasSection{GasDiameter, GasConduitWidth, GasConduitHeight, 19, 43, 52, 28, "Width:", "Height:",
+                                  kGasKFields, GasPipeTable, GasRoughnessTable, GasMinorLossTable, GasOuterTable,
+                                  GasInnerTable};
 
 std::vector<int> inputFieldsOfTab(int tab)
 {
     switch (tab) {
-    case kLiquidTab: return {0, 1, 2, 3, 4, 5, 6, 7, 8, 44};
-    case kGasTab: return {11, 12, 13, 14, 15, 16, 17, 42, 43};
-    default: return {26, 27, 28, 29, 30, 31, 32, 33, 34, 35, 45};
+    case LiquidTab:
+        return {LiquidFlow, LiquidDensity, LiquidViscosity, LiquidConduitWidth, LiquidConduitHeight, LiquidDiameter,
+                LiquidRoughness, ElevationChange, LiquidLength, LiquidTemperature};
+    case GasTab:
+        return {GasFlow, InletPressure, InletTemperature, GasViscosity, GasDiameter, GasRoughness, GasLength,
+                GasConduitHeight, GasConduitWidth};
+    default:
+        return {TwoPhaseLiquidViscosity, TwoPhaseLiquidDensity, TwoPhaseLiquidFlow, SurfaceTension, TwoPhaseVaporFlow,
+                TwoPhaseVaporDensity, TwoPhaseVaporViscosity, TwoPhaseLength, TwoPhaseRoughness, TwoPhaseDiameter,
+                TwoPhaseTemperature};
     }
 }
 
 } // namespace
 
-PressureDropModel::PressureDropModel(UserInterface& ui, QObject* parent) : FormModel(parent), ui_(ui)
-{
-    Label1 = {{3, {"Pipe/Tube Diameter:"}}, {4, {"Width of Conduit:"}}, {7, {"Height of Conduit:"}},
-              {9, {"K1, K2, K3:"}},         {19, {"Pipe/Tube Diameter:"}}, {28, {"K1, K2, K3:"}},
-              {43, {"Width:"}},             {52, {"Height:"}}};
-    Frame1 = {{{"Fluid Data"}, {"Pipe/Tube Data"}, {"Calculated Results"}, {"Fluid Data"}, {"Pipe/Tube Data"},
-               {"Calculated Results"}, {"Fluid Data"}, {"Pipe/Tube Data"}, {"Calculated Results"}}};
-    const std::map<int, const char*> tips{
-        {0, "Pipe/Tube Diameter Table"}, {6, "Pipe/Tube Diameter Table"}, {12, "Pipe/Tube Diameter Table"},
-        {1, "Roughness Table"},          {7, "Roughness Table"},          {11, "Roughness Table"},
-        {2, "Minor Fitting Loss Table"}, {8, "Minor Fitting Loss Table"}, {3, "Show Table"},
-        {4, "Show Table"},               {14, "Show Table"},              {10, "Show Table"},
-        {5, "Compute Z"},                {9, "Compute the Specific Heat Ratio, k"},
-        {13, "Open Flow Regime Map"},    {15, "Flow Rate Conversions"},   {16, "Flow Rate Conversions"},
-        {17, "Flow Rate Conversions"},   {18, "Flow Rate Conversions"},   {19, "Compute Gas Density"}};
-    for (const auto& [index, tip] : tips)
-        cmdTable[static_cast<size_t>(index)].caption = tip;
-    cmdTable[13].caption = kArrowCaption;
-}
+// --- load, activation, tabs --------------------------------------------------------
 
 void PressureDropModel::Form_Load()
 {
@@ -75,12 +64,13 @@ void PressureDropModel::Form_Load()
         list.listIndex = 0;
     record.InletTemperature = 77.0;
     record.PipeLength = startPipeLength();
-    for (int k : {0, 12, 18, 7, 19, 20})
+    for (int k : {LiquidK1, LiquidK2, LiquidK3, GasK1, GasK2, GasK3})
         txtDisplay[static_cast<size_t>(k)].text = "0";
     crossSectionLiquid = 0;
     crossSectionGas = 3;
     calcType = 0;
     orientation = 0;
+    showOptions();
     applyCrossSection(true, 0);
     applyCrossSection(false, 0);
     for (int i = 0; i < kPressureDropFields; ++i)
@@ -107,7 +97,7 @@ Single PressureDropModel::startPipeLength() const
 void PressureDropModel::applyGlobalUnits()
 {
     for (int i = 0; i < kPressureDropFields; ++i) {
-        cboUnits[static_cast<size_t>(i)].listIndex = globalUnits()[pressureDropUnitSetup(i)];
+        cboUnits[static_cast<size_t>(i)].listIndex = globalUnits()[pressureDropField(i).setup];
         showField(i);
     }
 }
@@ -115,39 +105,39 @@ void PressureDropModel::applyGlobalUnits()
 void PressureDropModel::SSTab1_Click(int newTab)
 {
     ChangeNotice notice(*this);
-    tab = std::clamp(newTab, 0, 2);
+    selectTab(newTab);
     tabChange();
+}
+
+void PressureDropModel::selectTab(int newTab)
+{
+    ChangeNotice notice(*this);
+    tab = std::clamp(newTab, 0, 2);
+    SSTab1.listIndex = tab;
 }
 
 void PressureDropModel::tabChange()
 {
-    crossSectionTabStop.fill(false);
-    calcTypeTabStop.fill(false);
-    orientationTabStop.fill(false);
     for (auto& field : txtData)
         field.tabStop = false;
-    for (int i : {4, 5, 6})
+    for (int i : {MolecularWeight, Compressibility, HeatCapacityRatio})
         txtDisplay[static_cast<size_t>(i)].tabStop = false;
     for (int t = 0; t < 3; ++t)
         txtProject[static_cast<size_t>(t)].tabStop = txtTag[static_cast<size_t>(t)].tabStop = (t == tab);
     for (int i : inputFieldsOfTab(tab))
         txtData[static_cast<size_t>(i)].tabStop = true;
-    if (tab == kGasTab)
-        for (int i : {4, 5, 6})
+    if (tab == GasTab)
+        for (int i : {MolecularWeight, Compressibility, HeatCapacityRatio})
             txtDisplay[static_cast<size_t>(i)].tabStop = true;
     helpContext = 1190 + 10 * tab;
     if (active_)
-        focusRequest = "txtProject(" + std::to_string(tab) + ")";
-    for (int i = 0; i <= 41; ++i)
+        requestFocus(pressure_drop::txtProject(tab));
+    for (int i = 0; i <= TwoPhasePressureDrop; ++i)
         showField(i);
     CalculateResults();
 }
 
-void PressureDropModel::cboUnits_Click(int index)
-{
-    ChangeNotice notice(*this);
-    showField(index);
-}
+// --- fields and unit lists -----------------------------------------------------------
 
 void PressureDropModel::setUnit(int index, UnitIndex listIndex)
 {
@@ -162,10 +152,8 @@ void PressureDropModel::showField(int index)
 {
     if (index < 0 || index >= kPressureDropFields)
         return;
-    const FieldBinding& field = pressureDropField(index);
-    const std::string text = unitFieldText(*field.kind, record.*field.member, cboUnits[static_cast<size_t>(index)].listIndex);
-    if (!text.empty()) // a value too large for its unit cannot be shown: the text stays
-        txtData[static_cast<size_t>(index)].text = text;
+    const auto i = static_cast<size_t>(index);
+    showUnitField(pressureDropField(index), record, cboUnits[i], txtData[i]);
 }
 
 void PressureDropModel::txtData_LostFocus(int index)
@@ -173,18 +161,19 @@ void PressureDropModel::txtData_LostFocus(int index)
     if (index < 0 || index >= kPressureDropFields)
         return;
     ChangeNotice notice(*this);
-    commitFieldText(index);
+    const auto i = static_cast<size_t>(index);
+    commitUnitField(pressureDropField(index), record, cboUnits[i], txtData[i]);
     CalculateResults();
 }
 
-void PressureDropModel::commitFieldText(int index)
+void PressureDropModel::commitFieldText(int index, const std::string& text)
 {
     if (index < 0 || index >= kPressureDropFields)
         return;
-    const FieldBinding& field = pressureDropField(index);
-    record.*field.member =
-        unitFieldValue(*field.kind, txtData[static_cast<size_t>(index)].text, cboUnits[static_cast<size_t>(index)].listIndex);
-    showField(index);
+    ChangeNotice notice(*this);
+    const auto i = static_cast<size_t>(index);
+    txtData[i].text = text;
+    commitUnitField(pressureDropField(index), record, cboUnits[i], txtData[i]);
 }
 
 void PressureDropModel::txtDisplay_LostFocus(int index)
@@ -192,30 +181,35 @@ void PressureDropModel::txtDisplay_LostFocus(int index)
     if (index < 0 || index >= kDisplays)
         return;
     ChangeNotice notice(*this);
-    commitDisplayText(index);
+    commitDisplayText(index, txtDisplay[static_cast<size_t>(index)].text);
     CalculateResults();
 }
 
-void PressureDropModel::commitDisplayText(int index)
+void PressureDropModel::commitDisplayText(int index, const std::string& text)
 {
     if (index < 0 || index >= kDisplays)
         return;
+    ChangeNotice notice(*this);
     TextControl& display = txtDisplay[static_cast<size_t>(index)];
+    display.text = text;
     switch (index) {
-    case 0: case 7: case 12: case 18: case 19: case 20:
+    case LiquidK1: case GasK1: case LiquidK2: case LiquidK3: case GasK2: case GasK3:
         if (display.text.empty())
             display.text = "0";
         break;
-    case 4: case 5: case 6: {
-        Single PressureDropData::*member = index == 4   ? &PressureDropData::MolecularWeight
-                                           : index == 5 ? &PressureDropData::Compressibility
-                                                        : &PressureDropData::HeatCapacityRatio;
-        record.*member = fieldSingleOr0(display.text);
-        break;
+    case MolecularWeight: record.MolecularWeight = fieldSingleOr0(display.text); break;
+    case Compressibility: record.Compressibility = fieldSingleOr0(display.text); break;
+    case HeatCapacityRatio: record.HeatCapacityRatio = fieldSingleOr0(display.text); break;
+    default: break;
     }
-    default:
-        break;
-    }
+}
+
+void PressureDropModel::useRecord(const PressureDropData& taken)
+{
+    ChangeNotice notice(*this);
+    record = taken;
+    for (int i = 0; i < kPressureDropFields; ++i)
+        showField(i);
 }
 
 void PressureDropModel::Form_KeyPress()
@@ -230,19 +224,21 @@ void PressureDropModel::setDirty()
     ui_.setToolbarButtonEnabled("Save", true);
 }
 
+// --- options ----------------------------------------------------------------------------
+
 void PressureDropModel::optCrossSection_Click(int index)
 {
     if (index < 0 || index > 5)
         return;
     ChangeNotice notice(*this);
-    for (int field : {5, 15, 35})
+    for (int field : {LiquidDiameter, GasDiameter, TwoPhaseDiameter})
         txtData_LostFocus(field);
     selectCrossSection(index);
     setDirty();
     CalculateResults();
     // The diameter fields show the diameter the results now use: after a
     // rectangle or an annulus, the hydraulic diameter it left.
-    for (int field : {5, 15, 35})
+    for (int field : {LiquidDiameter, GasDiameter, TwoPhaseDiameter})
         showField(field);
 }
 
@@ -255,6 +251,7 @@ void PressureDropModel::selectCrossSection(int index)
         crossSectionLiquid = index;
     else
         crossSectionGas = index;
+    showOptions();
     applyCrossSection(index < 3, index % 3);
 }
 
@@ -297,10 +294,10 @@ void PressureDropModel::applyCrossSection(bool liquidSide, int section)
     cmdTable[static_cast<size_t>(c.pipeTable)].enabled = circular;
     cmdTable[static_cast<size_t>(c.roughnessTable)].enabled = true;
     cmdTable[static_cast<size_t>(c.minorLossTable)].enabled = circular;
-    cmdTable[static_cast<size_t>(c.odTable)].enabled = annular;
-    cmdTable[static_cast<size_t>(c.idTable)].enabled = annular;
+    cmdTable[static_cast<size_t>(c.outerTable)].enabled = annular;
+    cmdTable[static_cast<size_t>(c.innerTable)].enabled = annular;
     for (int index : {c.width, c.height}) {
-        cboUnits[static_cast<size_t>(index)].listIndex = globalUnits()[pressureDropUnitSetup(index)];
+        cboUnits[static_cast<size_t>(index)].listIndex = globalUnits()[pressureDropField(index).setup];
         showField(index);
     }
 }
@@ -310,9 +307,16 @@ void PressureDropModel::optCalcType_Click(int index)
     if (index < 0 || index > 1)
         return;
     ChangeNotice notice(*this);
-    calcType = index;
+    selectCalcType(index);
     CalculateResults();
     setDirty();
+}
+
+void PressureDropModel::selectCalcType(int index)
+{
+    ChangeNotice notice(*this);
+    calcType = std::clamp(index, 0, 1);
+    showOptions();
 }
 
 void PressureDropModel::optOrientation_Click(int index)
@@ -330,133 +334,29 @@ void PressureDropModel::selectOrientation(int index)
         return;
     ChangeNotice notice(*this);
     orientation = index;
-    cmdTable[13].enabled = index != 2;
-    cmdTable[13].caption = index == 2 ? kCrossCaption : kArrowCaption;
+    cmdTable[RegimeMap].enabled = index != 2;
+    cmdTable[RegimeMap].caption = index == 2 ? kCrossCaption : kArrowCaption;
+    showOptions();
 }
 
-void PressureDropModel::showKSums()
+// The options show the choices; none of them is in the tab order.
+void PressureDropModel::showOptions()
 {
-    const MinorLossStore& store = minorLossStore();
-    for (const auto& fields : {kLiquidKFields, kGasKFields}) {
-        txtDisplay[static_cast<size_t>(fields[0])].text = formatMask(store.SegK1[0], "#,###,##0");
-        txtDisplay[static_cast<size_t>(fields[1])].text = formatMask(store.SegK2[0], "##0.00");
-        txtDisplay[static_cast<size_t>(fields[2])].text = formatMask(store.SegK3[0], "##0.00");
-    }
-}
-
-void PressureDropModel::cmdTable_Click(int index)
-{
-    if (index < 0 || index >= kButtons || !cmdTable[static_cast<size_t>(index)].enabled)
-        return;
-    ChangeNotice notice(*this);
-    PressureDropData& r = record;
-    const auto show = [this](std::initializer_list<int> fields) {
-        for (int field : fields)
-            showField(field);
+    const auto option = [](bool checked) {
+        ButtonControl button;
+        button.checked = checked;
+        button.tabStop = false;
+        return button;
     };
-    switch (index) {
-    case 0: case 6: case 12: {
-        const Single diameter = ui_.SelectPipeID("ID");
-        if (diameter != 0)
-            r.Diameter = diameter;
-        r.Roughness = pipeToolRoughness();
-        show({5, 6, 15, 16, 35, 34});
-        break;
-    }
-    case 1: case 7: case 11: {
-        const Single roughness = ui_.SelectRoughness();
-        if (roughness != 0)
-            r.Roughness = roughness;
-        show({6, 16, 34});
-        break;
-    }
-    case 2: case 8:
-        CurrentLine() = 0;
-        ui_.GetKValue();
-        if (minorLossStore().hasData[0])
-            showKSums();
-        break;
-    case 3: case 14: case 4: case 10: {
-        const bool outer = index == 3 || index == 14;
-        const Single diameter = ui_.SelectPipeID(outer ? "OD" : "ID");
-        if (diameter != 0)
-            (outer ? r.ConduitWidth : r.ConduitHeight) = diameter;
-        show(outer ? std::initializer_list<int>{3, 43} : std::initializer_list<int>{4, 42});
-        r.Roughness = pipeToolRoughness();
-        show({6});
-        break;
-    }
-    case 5: case 9: {
-        const Single value = index == 5 ? ui_.GetZValue(r.InletTemperature, r.InletPressure)
-                                        : ui_.GetHeatCapRatioValue(r.InletTemperature, r.InletPressure);
-        if (value != 0) {
-            const int display = index == 5 ? 5 : 6;
-            txtDisplay[static_cast<size_t>(display)].text = plainNumberText(value);
-            txtDisplay_LostFocus(display);
-        }
-        break;
-    }
-    case 13:
-        ui_.showRegimeMap(orientation == 0 ? "Horizontal" : "Vertical Up");
-        break;
-    case 15: case 17: case 16: case 18: {
-        const bool liquid = index == 15 || index == 17;
-        const Single flow = ui_.GetFlowrateConversion(liquid ? 1 : 2);
-        if (flow != 0)
-            (liquid ? r.LiquidFlow : r.GasFlow) = flow;
-        show(liquid ? std::initializer_list<int>{0, 28} : std::initializer_list<int>{11, 30});
-        break;
-    }
-    case 19: {
-        const Single density = ui_.GetGasDensity(r.InletTemperature, r.InletPressure);
-        if (density != 0)
-            r.VaporDensity = density;
-        show({31});
-        break;
-    }
-    default:
-        return;
-    }
-    setDirty();
-    CalculateResults();
+    for (int i = 0; i < 6; ++i)
+        optCrossSection[static_cast<size_t>(i)] = option(i == crossSectionLiquid || i == crossSectionGas);
+    for (int i = 0; i < 2; ++i)
+        optCalcType[static_cast<size_t>(i)] = option(i == calcType);
+    for (int i = 0; i < 3; ++i)
+        optOrientation[static_cast<size_t>(i)] = option(i == orientation);
 }
 
-void PressureDropModel::cmdProperties_Click(int index)
-{
-    if (index < 0 || index > 3)
-        return;
-    ChangeNotice notice(*this);
-    setDirty();
-    const bool liquid = index == 0 || index == 2;
-    propertiesCancelled() = false;
-    propertiesCancelled() = !ui_.GetPhysicalProperties(liquid ? FluidKind::Liquid : FluidKind::Gas, record.InletTemperature);
-    if (propertiesCancelled())
-        return;
-    const PhysProps& props = physProps();
-    if (liquid) {
-        if (!props.liquidName.empty()) {
-            Frame1[0].caption = "Fluid Data:  " + props.liquidName;
-            txtLiquid.text = liquidName = props.liquidName;
-        }
-        record.LiquidDensity = props.liquidDensity;
-        record.LiquidViscosity = props.liquidViscosity;
-        // The properties tool hands the surface tension over in the first unit
-        // of its list, dyn/cm; the record holds N/m.
-        record.SurfaceTension = SurfaceTensionFromUnit(props.surfaceTension, 0);
-        for (int field : {1, 2, 27, 26, 29})
-            showField(field);
-    } else {
-        if (!props.gasName.empty()) {
-            Frame1[3].caption = "Fluid Data:  " + props.gasName;
-            txtGas.text = gasName = props.gasName;
-        }
-        record.VaporViscosity = props.vaporViscosity;
-        record.MolecularWeight = props.molecularWeight;
-        txtDisplay[4].text = plainNumberText(record.MolecularWeight);
-        for (int field : {14, 32})
-            showField(field);
-    }
-}
+// --- reset and closing ------------------------------------------------------------------
 
 void PressureDropModel::cmdReset_Click(int index)
 {
@@ -468,9 +368,9 @@ void PressureDropModel::cmdReset_Click(int index)
         return;
     record.PipeLength = startPipeLength();
     caption = kTitle;
-    if (index == 0)
+    if (index == LiquidTab)
         resetLiquidCase();
-    else if (index == 1)
+    else if (index == GasTab)
         resetGasCase();
     else
         resetTwoPhaseCase();
@@ -481,71 +381,75 @@ void PressureDropModel::cmdReset_Click(int index)
 void PressureDropModel::resetLiquidCase()
 {
     PressureDropData& r = record;
-    showField(8);
+    showField(LiquidLength);
     r.LiquidFlow = r.LiquidDensity = r.LiquidViscosity = r.Roughness = r.Diameter = r.ConduitWidth =
         r.SurfaceTension = 0.0;
     r.InletTemperature = 77.0;
-    for (int i = 0; i <= 10; ++i)
+    for (int i = LiquidFlow; i <= LiquidPressureDrop; ++i)
         txtData[static_cast<size_t>(i)].text = "0";
     for (int k : kLiquidKFields)
         txtDisplay[static_cast<size_t>(k)].text = "0";
     minorLossStore().clearSlot(0);
-    for (int i = 1; i <= 3; ++i)
+    for (int i : {LiquidReynolds, LiquidRegime, LiquidFriction})
         txtDisplay[static_cast<size_t>(i)].text.clear();
-    for (int i = 0; i <= 10; ++i)
+    for (int i = LiquidFlow; i <= LiquidPressureDrop; ++i)
         showField(i);
-    showField(44);
-    Frame1[0].caption = "Fluid Data";
+    showField(LiquidTemperature);
+    Frame1[LiquidFluidFrame].caption = "Fluid Data";
     txtLiquid.text.clear();
     liquidName.clear();
-    txtProject[0].text.clear();
-    txtTag[0].text.clear();
+    txtProject[LiquidTab].text.clear();
+    txtTag[LiquidTab].text.clear();
+    showFluidNames();
 }
 
 void PressureDropModel::resetGasCase()
 {
     PressureDropData& r = record;
-    showField(17);
+    showField(GasLength);
     r.GasFlow = r.InletPressure = r.ExitPressure = r.SonicVelocity = r.VaporViscosity = r.Roughness =
         r.Diameter = r.GasDensity = r.ExitDensity = r.ExitTemperature = r.Velocity = r.ExitVelocity = 0.0;
     r.InletTemperature = 77.0;
-    for (int i : {11, 12, 13, 14, 15, 16, 17, 42, 43})
+    for (int i : {GasFlow, InletPressure, InletTemperature, GasViscosity, GasDiameter, GasRoughness, GasLength,
+                  GasConduitHeight, GasConduitWidth})
         txtData[static_cast<size_t>(i)].text = "0";
     // The liquid tab's K fields take these texts; the gas tab's keep theirs.
-    txtDisplay[0].text = "7";
-    txtDisplay[12].text = "19";
-    txtDisplay[18].text = "20";
-    for (int i : {4, 5, 6, 8, 9, 10, 11})
+    txtDisplay[LiquidK1].text = "7";
+    txtDisplay[LiquidK2].text = "19";
+    txtDisplay[LiquidK3].text = "20";
+    for (int i : {MolecularWeight, Compressibility, HeatCapacityRatio, GasReynolds, GasFriction, InletMach, OutletMach})
         txtDisplay[static_cast<size_t>(i)].text.clear();
-    for (int i = 11; i <= 25; ++i)
+    for (int i = GasFlow; i <= ExitPressure; ++i)
         showField(i);
-    Frame1[3].caption = "Fluid Data";
+    Frame1[GasFluidFrame].caption = "Fluid Data";
     txtGas.text.clear();
     gasName.clear();
-    txtProject[1].text.clear();
-    txtTag[1].text.clear();
-    focusRequest = "txtProject(1)";
+    txtProject[GasTab].text.clear();
+    txtTag[GasTab].text.clear();
+    showFluidNames();
+    requestFocus(pressure_drop::txtProject(GasTab));
 }
 
 void PressureDropModel::resetTwoPhaseCase()
 {
     PressureDropData& r = record;
-    showField(33);
+    showField(TwoPhaseLength);
     r.GasFlow = r.LiquidFlow = r.Roughness = r.Diameter = r.VaporDensity = r.LiquidDensity = r.Velocity =
         r.ExitVelocity = r.PressureDrop = 0.0;
     r.InletTemperature = 77.0;
-    for (int i = 26; i <= 41; ++i)
+    for (int i = TwoPhaseLiquidViscosity; i <= TwoPhasePressureDrop; ++i)
         txtData[static_cast<size_t>(i)].text = "0";
-    for (int i = 13; i <= 17; ++i)
+    for (int i = TwoPhaseVaporReynolds; i <= TwoPhaseRegime; ++i)
         txtDisplay[static_cast<size_t>(i)].text.clear();
-    for (int i = 26; i <= 41; ++i)
+    for (int i = TwoPhaseLiquidViscosity; i <= TwoPhasePressureDrop; ++i)
         showField(i);
     txtLiquid.text.clear();
     txtGas.text.clear();
-    txtProject[2].text.clear();
-    txtTag[2].text.clear();
-    Frame1[0].caption = "Fluid Data";
-    Frame1[3].caption = "Fluid Data";
+    txtProject[TwoPhaseTab].text.clear();
+    txtTag[TwoPhaseTab].text.clear();
+    Frame1[LiquidFluidFrame].caption = "Fluid Data";
+    Frame1[GasFluidFrame].caption = "Fluid Data";
+    showFluidNames();
 }
 
 bool PressureDropModel::Form_QueryUnload()
@@ -574,5 +478,6 @@ void PressureDropModel::closeDocument()
     ui_.setToolbarButtonEnabled("Save", false);
     ui_.setToolbarButtonEnabled("Print", false);
 }
+
 
 } // namespace kestrova

@@ -5,6 +5,8 @@
 
 #include "forms/model/document_tool.h"
 #include "forms/model/form_model.h"
+#include "forms/store/staging.h"
+#include "tools/pressure_drop/model/pressure_drop_controls.h"
 #include "tools/pressure_drop/model/pressure_drop_record.h"
 
 #include <array>
@@ -15,49 +17,48 @@ namespace kestrova {
 
 class UserInterface;
 
-// How a field's background looks: the window colour, the system's grey of a
-// disabled field, or the light blue tint of an enabled K field.
-enum class FieldShade { Normal, Disabled, Tinted };
-
-struct TextControl {
-    std::string text;
-    bool enabled = true;
-    bool tabStop = false;
-    FieldShade shade = FieldShade::Normal;
-    std::string toolTip;
+// Everything the pressure drop window shows, as the tool holds it. Read it
+// through PressureDropModel::view(); only the tool's event routines change it.
+struct PressureDropState {
+    PressureDropData record;
+    std::array<TextControl, pressure_drop::kFields> txtData;
+    std::array<ListControl, pressure_drop::kFields> cboUnits;
+    std::array<TextControl, pressure_drop::kDisplays> txtDisplay;
+    std::array<TextControl, 3> txtProject, txtTag;
+    TextControl txtLiquid, txtGas;
+    LabelControl twoPhaseFluids; // the names of both fluids on the two-phase tab
+    std::map<int, LabelControl> Label1; // the labels whose look changes
+    std::array<FrameControl, 9> Frame1;
+    std::array<ButtonControl, pressure_drop::kTables> cmdTable;
+    std::array<ButtonControl, 6> optCrossSection;
+    std::array<ButtonControl, 2> optCalcType;
+    std::array<ButtonControl, 3> optOrientation;
+    ListControl SSTab1; // the tab in front
+    int tab = 0;
+    int crossSectionLiquid = 0; // optCrossSection(0) to (2)
+    int crossSectionGas = 3;    // optCrossSection(3) to (5)
+    int calcType = 0;           // optCalcType
+    int orientation = 0;        // optOrientation
+    int helpContext = 1190;
+    std::string caption = "Pressure Drop";
+    std::string liquidName, gasName; // the fluid names that the data sheet reads
+    bool DirtyFlag = false;
+    bool failed = false;             // the last run ended in the failure handler
+    std::string lastMapCoordinates;  // the map coordinates line of the last two-phase run
 };
 
-struct UnitListControl {
-    UnitIndex listIndex = 0;
-    bool enabled = true;
-};
-
-struct LabelControl {
-    std::string caption;
-    bool grey = false;
-};
-
-struct FrameControl {
-    std::string caption;
-    bool bold = false;
-    bool red = false;
-};
-
-struct ButtonControl {
-    std::string caption;
-    bool enabled = true;
-};
-
-class PressureDropModel : public FormModel, public DocumentTool {
+class PressureDropModel : public FormModel, public DocumentTool, private PressureDropState {
     Q_OBJECT
 
 public:
-    static constexpr int kDisplays = 21;  // txtDisplay(0) to txtDisplay(20)
-    static constexpr int kButtons = 20;   // cmdTable(0) to cmdTable(19)
+    static constexpr int kDisplays = pressure_drop::kDisplays;
+    static constexpr int kButtons = pressure_drop::kTables;
     static constexpr const char* kTitle = "Pressure Drop";
     static constexpr const char* kStatusTitle = "Single Line Pressure Drop Calculations";
 
     explicit PressureDropModel(UserInterface& ui, QObject* parent = nullptr);
+
+    const PressureDropState& view() const { return *this; }
 
     // --- event routines ------------------------------------------------------
     void Form_Load() override;
@@ -67,7 +68,6 @@ public:
     void SSTab1_Click(int tab);
     void txtData_LostFocus(int index);
     void txtDisplay_LostFocus(int index);
-    void cboUnits_Click(int index);
     void setUnit(int index, UnitIndex listIndex); // the user picks a unit
     void optCrossSection_Click(int index);
     void optCalcType_Click(int index);
@@ -76,13 +76,26 @@ public:
     void cmdProperties_Click(int index);
     void cmdReset_Click(int index);
     void Form_KeyPress(); // any key typed in the form marks the data as changed
-    // An option set without its click routine: the form follows, nothing runs.
-    void selectCrossSection(int index);
-    void selectOrientation(int index);
-    // The storing part of leaving a field, without the calculation that follows.
-    void commitFieldText(int index);
-    void commitDisplayText(int index);
     void CalculateResults();
+
+    // --- the window's way in ----------------------------------------------------
+    void commit(const Control& field, const std::string& text) override;
+    void click(const Control& control) override;
+    void choose(const Control& list, int entry) override;
+    void keyTyped(const Control& field) override;
+    std::string windowCaption() const override { return caption; }
+
+    // --- the headless companion's way in: a case set up without running ----------
+    // An option or a tab set without its click routine: the form follows, nothing runs.
+    void selectTab(int tab);
+    void selectCrossSection(int index);
+    void selectCalcType(int index);
+    void selectOrientation(int index);
+    // The record taken whole, every field shown again.
+    void useRecord(const PressureDropData& record);
+    // A text put into a field and stored as leaving it does, without the calculation.
+    void commitFieldText(int index, const std::string& text);
+    void commitDisplayText(int index, const std::string& text);
 
     // --- DocumentTool ---------------------------------------------------------
     std::string strFileName() const override { return fileName_; }
@@ -92,41 +105,19 @@ public:
     std::string toolTitle() const override { return kTitle; }
     std::int16_t fileKind() const override { return 2; }
 
-    // --- what the form shows ----------------------------------------------------
-    PressureDropData record;
-    std::array<TextControl, kPressureDropFields> txtData;
-    std::array<UnitListControl, kPressureDropFields> cboUnits;
-    std::array<TextControl, kDisplays> txtDisplay;
-    std::array<TextControl, 3> txtProject, txtTag;
-    TextControl txtLiquid, txtGas;
-    std::map<int, LabelControl> Label1; // the labels whose look changes
-    std::array<FrameControl, 9> Frame1;
-    std::array<ButtonControl, kButtons> cmdTable;
-    int tab = 0;
-    int crossSectionLiquid = 0; // optCrossSection(0) to (2)
-    int crossSectionGas = 3;    // optCrossSection(3) to (5)
-    int calcType = 0;           // optCalcType
-    int orientation = 0;        // optOrientation
-    std::array<bool, 6> crossSectionTabStop{}, calcTypeTabStop{}, orientationTabStop{};
-    int helpContext = 1190;
-    std::string caption = kTitle;
-    std::string liquidName, gasName; // the fluid names that the data sheet reads
-    bool DirtyFlag = false;
-    bool failed = false;        // the last run ended in the failure handler
-    std::string lastMapCoordinates; // the map coordinates line of the last two-phase run
-    std::string focusRequest;   // a control that is to take the focus, e.g. "txtProject(1)"
-
-    bool isActive() const { return active_; }
     int crossSectionOfShownTab() const { return tab == 0 ? crossSectionLiquid : crossSectionGas; }
 
 private:
+    void registerControls();
     void showField(int index);
     void setDirty();
     void applyGlobalUnits();
     void tabChange();
     void applyCrossSection(bool liquidSide, int section);
     void setKFieldsLook(const std::array<int, 3>& fields, int labelIndex, bool enabled);
+    void showOptions();
     void showKSums();
+    void showFluidNames();
     void calculateLiquid();
     void calculateGas();
     void calculateTwoPhase();
@@ -140,6 +131,9 @@ private:
     bool openFile();
     bool saveFile();
     void finishFileOperation();
+    void liquidDataSheet(DataSheetColumns& row) const;
+    void gasDataSheet(DataSheetColumns& row) const;
+    void twoPhaseDataSheet(DataSheetColumns& row) const;
 
     UserInterface& ui_;
     std::string fileName_;

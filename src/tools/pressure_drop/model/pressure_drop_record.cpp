@@ -19,84 +19,83 @@ std::array<Single*, PressureDropData::kFieldCount> PressureDropData::fields()
 namespace {
 
 using namespace field_kinds;
+using namespace pressure_drop;
+using D = PressureDropData;
+using Q = Quantity;
 
 // The pressure drop tool's own masks for a pressure drop.
 const FieldKind kPressureDrop{"Pressure Drop", PressureToUnit, PressureFromUnit,
                               {"##,##0.00", "##,##0.00", "##,##0.000", "##,##0.000", "##,##0.000", "##,##0.00",
                                "##,##0.000", "##,##0.00"}};
 
-using D = PressureDropData;
+std::pair<int, FieldBinding<D>> bind(int field, const FieldKind* kind, Quantity setup, Single D::*member)
+{
+    return {field, {kind, setup, member}};
+}
 
-const std::array<FieldBinding, kPressureDropFields> kFields{{
-    {&flow, &D::LiquidFlow},          // 0
-    {&density, &D::LiquidDensity},    // 1
-    {&viscosity, &D::LiquidViscosity}, // 2
-    {&diameter, &D::ConduitWidth},    // 3
-    {&diameter, &D::ConduitHeight},   // 4
-    {&diameter, &D::Diameter},        // 5
-    {&roughness, &D::Roughness},      // 6
-    {&length, &D::ElevationChange},   // 7
-    {&length, &D::PipeLength},        // 8
-    {&velocity, &D::Velocity},        // 9
-    {&kPressureDrop, &D::PressureDrop}, // 10
-    {&flow, &D::GasFlow},             // 11
-    {&pressure, &D::InletPressure},   // 12
-    {&temperature, &D::InletTemperature}, // 13
-    {&viscosity, &D::VaporViscosity}, // 14
-    {&diameter, &D::Diameter},        // 15
-    {&roughness, &D::Roughness},      // 16
-    {&length, &D::PipeLength},        // 17
-    {&velocity, &D::Velocity},        // 18
-    {&velocity, &D::ExitVelocity},    // 19
-    {&density, &D::GasDensity},       // 20
-    {&density, &D::ExitDensity},      // 21
-    {&velocity, &D::SonicVelocity},   // 22
-    {&temperature, &D::ExitTemperature}, // 23
-    {&kPressureDrop, &D::PressureDrop}, // 24
-    {&pressure, &D::ExitPressure},    // 25
-    {&viscosity, &D::LiquidViscosity}, // 26
-    {&density, &D::LiquidDensity},    // 27
-    {&flow, &D::LiquidFlow},          // 28
-    {&surfaceTension, &D::SurfaceTension}, // 29
-    {&flow, &D::GasFlow},             // 30
-    {&density, &D::VaporDensity},     // 31
-    {&viscosity, &D::VaporViscosity}, // 32
-    {&length, &D::PipeLength},        // 33
-    {&roughness, &D::Roughness},      // 34
-    {&diameter, &D::Diameter},        // 35
-    {&velocity, &D::Velocity},        // 36
-    {&velocity, &D::ExitVelocity},    // 37
-    {&density, &D::AverageDensity},   // 38
-    {&viscosity, &D::AverageViscosity}, // 39
-    {&velocity, &D::AverageVelocity}, // 40
-    {&kPressureDrop, &D::PressureDrop}, // 41
-    {&diameter, &D::ConduitHeight},   // 42
-    {&diameter, &D::ConduitWidth},    // 43
-    {&temperature, &D::InletTemperature}, // 44
-    {&temperature, &D::InletTemperature}, // 45
-}};
+std::array<FieldBinding<D>, kPressureDropFields> makeTable()
+{
+    const std::pair<int, FieldBinding<D>> rows[] = {
+        bind(LiquidFlow, &flow, Q::Flow, &D::LiquidFlow),
+        bind(LiquidDensity, &density, Q::Density, &D::LiquidDensity),
+        bind(LiquidViscosity, &viscosity, Q::Viscosity, &D::LiquidViscosity),
+        bind(LiquidConduitWidth, &diameter, Q::Length, &D::ConduitWidth),
+        bind(LiquidConduitHeight, &diameter, Q::Length, &D::ConduitHeight),
+        bind(LiquidDiameter, &diameter, Q::Diameter, &D::Diameter),
+        bind(LiquidRoughness, &roughness, Q::Roughness, &D::Roughness),
+        bind(ElevationChange, &length, Q::Length, &D::ElevationChange),
+        bind(LiquidLength, &length, Q::Length, &D::PipeLength),
+        bind(LiquidVelocity, &velocity, Q::Velocity, &D::Velocity),
+        bind(LiquidPressureDrop, &kPressureDrop, Q::PressureDrop, &D::PressureDrop),
+        bind(GasFlow, &flow, Q::Flow, &D::GasFlow),
+        bind(InletPressure, &pressure, Q::Pressure, &D::InletPressure),
+        bind(InletTemperature, &temperature, Q::Temperature, &D::InletTemperature),
+        bind(GasViscosity, &viscosity, Q::Viscosity, &D::VaporViscosity),
+        bind(GasDiameter, &diameter, Q::Diameter, &D::Diameter),
+        bind(GasRoughness, &roughness, Q::Roughness, &D::Roughness),
+        bind(GasLength, &length, Q::Length, &D::PipeLength),
+        bind(InletVelocity, &velocity, Q::Velocity, &D::Velocity),
+        bind(ExitVelocity, &velocity, Q::Velocity, &D::ExitVelocity),
+        bind(InletDensity, &density, Q::Density, &D::GasDensity),
+        bind(ExitDensity, &density, Q::Density, &D::ExitDensity),
+        bind(SonicVelocity, &velocity, Q::Velocity, &D::SonicVelocity),
+        bind(ExitTemperature, &temperature, Q::Temperature, &D::ExitTemperature),
+        bind(GasPressureDrop, &kPressureDrop, Q::PressureDrop, &D::PressureDrop),
+        bind(ExitPressure, &pressure, Q::Pressure, &D::ExitPressure),
+        bind(TwoPhaseLiquidViscosity, &viscosity, Q::Viscosity, &D::LiquidViscosity),
+        bind(TwoPhaseLiquidDensity, &density, Q::Density, &D::LiquidDensity),
+        bind(TwoPhaseLiquidFlow, &flow, Q::Flow, &D::LiquidFlow),
+        bind(SurfaceTension, &surfaceTension, Q::SurfaceTension, &D::SurfaceTension),
+        bind(TwoPhaseVaporFlow, &flow, Q::Flow, &D::GasFlow),
+        bind(TwoPhaseVaporDensity, &density, Q::Density, &D::VaporDensity),
+        bind(TwoPhaseVaporViscosity, &viscosity, Q::Viscosity, &D::VaporViscosity),
+        bind(TwoPhaseLength, &length, Q::Length, &D::PipeLength),
+        bind(TwoPhaseRoughness, &roughness, Q::Roughness, &D::Roughness),
+        bind(TwoPhaseDiameter, &diameter, Q::Diameter, &D::Diameter),
+        bind(TwoPhaseLiquidVelocity, &velocity, Q::Velocity, &D::Velocity),
+        bind(TwoPhaseVaporVelocity, &velocity, Q::Velocity, &D::ExitVelocity),
+        bind(AverageDensity, &density, Q::Density, &D::AverageDensity),
+        bind(AverageViscosity, &viscosity, Q::Viscosity, &D::AverageViscosity),
+        bind(AverageVelocity, &velocity, Q::Velocity, &D::AverageVelocity),
+        bind(TwoPhasePressureDrop, &kPressureDrop, Q::PressureDrop, &D::PressureDrop),
+        bind(GasConduitHeight, &diameter, Q::Length, &D::ConduitHeight),
+        bind(GasConduitWidth, &diameter, Q::Length, &D::ConduitWidth),
+        bind(LiquidTemperature, &temperature, Q::Temperature, &D::InletTemperature),
+        bind(TwoPhaseTemperature, &temperature, Q::Temperature, &D::InletTemperature),
+    };
+    std::array<FieldBinding<D>, kPressureDropFields> table{};
+    for (const auto& [field, binding] : rows)
+        table[static_cast<size_t>(field)] = binding;
+    return table;
+}
 
-using Q = Quantity;
-constexpr std::array<Quantity, kPressureDropFields> kUnitSetup{
-    Q::Flow,     Q::Density,  Q::Viscosity,      Q::Length,   Q::Length,       Q::Diameter,     // 0-5
-    Q::Roughness, Q::Length,  Q::Length,         Q::Velocity, Q::PressureDrop, Q::Flow,         // 6-11
-    Q::Pressure, Q::Temperature, Q::Viscosity,   Q::Diameter, Q::Roughness,    Q::Length,       // 12-17
-    Q::Velocity, Q::Velocity, Q::Density,        Q::Density,  Q::Velocity,     Q::Temperature,  // 18-23
-    Q::PressureDrop, Q::Pressure, Q::Viscosity,  Q::Density,  Q::Flow,         Q::SurfaceTension, // 24-29
-    Q::Flow,     Q::Density,  Q::Viscosity,      Q::Length,   Q::Roughness,    Q::Diameter,     // 30-35
-    Q::Velocity, Q::Velocity, Q::Density,        Q::Viscosity, Q::Velocity,    Q::PressureDrop, // 36-41
-    Q::Length,   Q::Length,   Q::Temperature,    Q::Temperature};                                 // 42-45
+const std::array<FieldBinding<D>, kPressureDropFields> kBindings = makeTable();
 
 } // namespace
 
-Quantity pressureDropUnitSetup(int index)
+const FieldBinding<PressureDropData>& pressureDropField(int index)
 {
-    return kUnitSetup.at(static_cast<size_t>(index));
-}
-
-const FieldBinding& pressureDropField(int index)
-{
-    return kFields.at(static_cast<size_t>(index));
+    return kBindings.at(static_cast<size_t>(index));
 }
 
 } // namespace kestrova

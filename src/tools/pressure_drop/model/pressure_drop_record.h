@@ -1,13 +1,13 @@
 #pragma once
 // The pressure drop tool's record of 31 singles in internal units, and the
-// table that ties each txtData field to a record field, a unit list and masks.
+// table that binds each txtData field to a record field, its unit list and
+// masks, and the global quantity its list takes.
 
-#include "forms/store/global_units.h"
-#include "units/unit_field.h"
+#include "forms/model/unit_fields.h"
 #include "numeric/single.h"
+#include "tools/pressure_drop/model/pressure_drop_controls.h"
 
 #include <array>
-#include <string>
 
 namespace kestrova {
 
@@ -25,19 +25,11 @@ struct PressureDropData {
     std::array<Single*, kFieldCount> fields();
 };
 
-struct FieldBinding {
-    const FieldKind* kind;
-    Single PressureDropData::*member;
-};
+inline constexpr int kPressureDropFields = pressure_drop::kFields; // txtData(0) to txtData(45)
 
-inline constexpr int kPressureDropFields = 46; // txtData(0) to txtData(45)
-
-// The binding of txtData(i) and cboUnits(i).
-const FieldBinding& pressureDropField(int index);
-
-// The global quantity whose unit cboUnits(i) takes at each activation. The
-// conduit width and height take the length unit, though their list is the
-// diameter list: only the index passes.
-Quantity pressureDropUnitSetup(int index);
+// The binding of txtData(i) and cboUnits(i). The conduit width and height
+// take the length unit, though their list is the diameter list: only the
+// index passes.
+const FieldBinding<PressureDropData>& pressureDropField(int index);
 
 } // namespace kestrova

@@ -1,21 +1,15 @@
 #pragma once
-// The pressure drop tool's window: three tabs of fields built in code, each
-// control named as the program knows it ("txtData(5)", "cboUnits(5)"). It
-// forwards the user's events to PressureDropModel and shows what the model holds.
+// The pressure drop tool's window: three tabs of controls laid out in code,
+// each bound by its program name ("txtData(5)", "cboUnits(5)") to
+// PressureDropModel, which says what each shows and takes what the user does.
 
 #include "forms/ui/document_form.h"
 
 #include <array>
-#include <map>
 
-class QComboBox;
-class QGroupBox;
-class QLabel;
-class QLineEdit;
-class QPushButton;
-class QRadioButton;
-class QTabWidget;
 class QGridLayout;
+class QGroupBox;
+class QPushButton;
 
 namespace kestrova {
 
@@ -28,12 +22,6 @@ class frmPressureDrop : public DocumentForm {
 public:
     frmPressureDrop(PressureDropModel& model, UserInterface& ui, QWidget* parent = nullptr);
 
-    void render() override;
-
-protected:
-    void commit(QLineEdit* field) override;
-    bool numericField(const QLineEdit& field, bool& minusAllowed) const override;
-
 private:
     QWidget* buildLiquidTab();
     QWidget* buildGasTab();
@@ -43,23 +31,12 @@ private:
     void fieldRow(QGridLayout* grid, int row, const QString& label, int field, int button = -1, int labelIndex = -1);
     void displayRow(QGridLayout* grid, int row, const QString& label, int display, int button = -1);
     void kRow(QGridLayout* grid, int row, int labelIndex, const std::array<int, 3>& fields, int button);
+    void fluidRow(QGridLayout* grid, int row, int tab);
     void projectRows(QGridLayout* grid, int row, int tab);
     QPushButton* tableButton(int index);
-    QRadioButton* option(const QString& family, int index, const QString& caption, const QString& status);
-
-    PressureDropModel& model_;
-    QTabWidget* tabs_ = nullptr;
-    std::map<int, QLineEdit*> txtData_, txtDisplay_;
-    std::map<int, QComboBox*> cboUnits_;
-    std::map<int, QLabel*> labels_;
-    std::map<int, QGroupBox*> frames_;
-    std::map<int, QPushButton*> buttons_;
-    std::map<QString, QRadioButton*> options_;
-    QLineEdit* txtProject_[3]{};
-    QLineEdit* txtTag_[3]{};
-    QLineEdit* txtLiquid_ = nullptr;
-    QLineEdit* txtGas_ = nullptr;
-    QLabel* twoPhaseNames_ = nullptr;
+    QWidget* optionRow(const char* family, int first, const std::array<const char*, 3>& captions,
+                       const std::array<const char*, 3>& statuses, int count = 3);
+    QPushButton* resetButton(int tab);
 };
 
 } // namespace kestrova

@@ -1,0 +1,405 @@
+#include "forms/ui/form_view.h"
+
+#include "forms/model/user_interface.h"
+#include "forms/ui/exception_barrier.h"
+#include "units/basLoadUnits.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFocusEvent>
+#include <QGroupBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTabWidget>
+#include <QTimer>
+
+namespace kestrova {
+
+const QColor& tintColour()
+{
+    static const QColor tint(192, 192, 255); // 0xFFC0C0 in blue-green-red order
+    return tint;
+}
+
+bool keyRefused(const QLineEdit& field, const QKeyEvent& key, KeyRule rule)
+{
+    if (rule == KeyRule::Text || key.text().isEmpty() || !key.text().at(0).isPrint())
+        return false; // Backspace, the arrows and other keys that put no character
+    const QChar c = key.text().at(0);
+    if (c.isDigit())
+        return false;
+    if (rule == KeyRule::Digits)
+        return true;
+    // The characters that stay once the typed key replaces the selection.
+    QString rest = field.text();
+    if (field.hasSelectedText())
+        rest.remove(field.selectionStart(), field.selectedText().size());
+    if ((c == '.' || c == ',') && !rest.contains(c))
+        return false;
+    if (c == '-' && rule == KeyRule::SignedNumber && !rest.contains('-'))
+        return false;
+    return true;
+}
+
+namespace {
+
+QColor baseColour(FieldShade shade, const QWidget& form)
+{
+    switch (shade) {
+    case FieldShade::Tinted: return tintColour();
+    case FieldShade::Result: return form.palette().color(QPalette::Window).lighter(104);
+    default: return QApplication::palette().color(QPalette::Base);
+    }
+}
+
+void paint(QWidget* widget, FieldShade shade, const QWidget& form)
+{
+    QPalette p = widget->palette();
+    p.setColor(QPalette::Base, baseColour(shade, form));
+    p.setColor(QPalette::Button, shade == FieldShade::Tinted ? tintColour() : QApplication::palette().color(QPalette::Button));
+    widget->setPalette(p);
+}
+
+// Only a frame's caption is bold or red: a style sheet of the frame alone,
+// which its children do not take.
+void showCaptionStyle(QGroupBox* box, const FrameControl& state)
+{
+    if (!state.bold && !state.red) {
+        box->setStyleSheet(QString());
+        return;
+    }
+    box->setProperty("kestrovaCaption", true);
+    QString sheet;
+    if (state.bold)
+        sheet += "QGroupBox[kestrovaCaption=\"true\"] { font-weight: bold; }";
+    if (state.red)
+        sheet += "QGroupBox[kestrovaCaption=\"true\"]::title { color: #ff0000; }";
+    box->setStyleSheet(sheet);
+}
+
+// Selects the field's text once the event at hand is done, if the field
+// still has the focus then.
+void selectSoon(QLineEdit* field)
+{
+    QTimer::singleShot(0, field, [field] {
+        if (field->hasFocus())
+            field->selectAll();
+    });
+}
+
+} // namespace
+
+FormView::FormView(FormModel& model, UserInterface& ui, QWidget& form)
+    : QObject(&form), model_(model), ui_(ui), form_(form)
+{
+}
+
+template <typename Widget>
+Widget* FormView::bind(Widget* widget, const Control& control)
+{
+    widget->setObjectName(QString::fromStdString(control.name()));
+    controls_[widget] = control;
+    widget->installEventFilter(this);
+    return widget;
+}
+
+QLineEdit* FormView::field(const Control& control)
+{
+    auto* edit = bind(new QLineEdit, control);
+    edit->setMinimumWidth(110);
+    connect(edit, &QLineEdit::textEdited, this,
+            [this, control](const QString& text) { guard([&] { model_.textEdited(control, text.toStdString()); }); });
+    fields_.push_back({control, edit, std::nullopt});
+    return edit;
+}
+
+QComboBox* FormView::list(const Control& control, const QStringList& entries)
+{
+    auto* box = bind(new QComboBox, control);
+    box->addItems(entries);
+    box->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    connect(box, &QComboBox::activated, this, [this, control](int entry) { guard([&] { model_.choose(control, entry); }); });
+    lists_.push_back({control, box, std::nullopt});
+    return box;
+}
+
+QComboBox* FormView::unitList(const Control& control, const char* tag)
+{
+    QStringList entries;
+    for (const std::string& unit : kestrova::unitList(tag))
+        entries << QString::fromStdString(unit);
+    QComboBox* box = list(control, entries);
+    box->setFocusPolicy(Qt::ClickFocus);
+    return box;
+}
+
+QLabel* FormView::label(const Control& control, const QString& caption)
+{
+    auto* text = bind(new QLabel(caption), control);
+    labels_.push_back({control, text, std::nullopt});
+    return text;
+}
+
+QGroupBox* FormView::frame(const Control& control, const QString& caption)
+{
+    auto* box = bind(new QGroupBox(caption), control);
+    frames_.push_back({control, box, std::nullopt});
+    return box;
+}
+
+QPushButton* FormView::button(const Control& control, const QString& caption)
+{
+    auto* button = bind(new QPushButton(caption), control);
+    button->setAutoDefault(false);
+    connect(button, &QPushButton::clicked, this, [this, control] { guard([&] { model_.click(control); }); });
+    buttons_.push_back({control, button, std::nullopt});
+    return button;
+}
+
+QRadioButton* FormView::option(const Control& control, const QString& caption)
+{
+    auto* option = bind(new QRadioButton(caption), control);
+    connect(option, &QRadioButton::clicked, this, [this, control] { guard([&] { model_.click(control); }); });
+    buttons_.push_back({control, option, std::nullopt});
+    return option;
+}
+
+QCheckBox* FormView::check(const Control& control, const QString& caption)
+{
+    auto* box = bind(new QCheckBox(caption), control);
+    connect(box, &QCheckBox::clicked, this, [this, control](bool on) { guard([&] { model_.choose(control, on ? 1 : 0); }); });
+    buttons_.push_back({control, box, std::nullopt});
+    return box;
+}
+
+QTabWidget* FormView::tabs(const Control& control)
+{
+    auto* strip = bind(new QTabWidget, control);
+    // Only a tab the user brings to the front is told: not the first tab
+    // added while the window is laid out, nor the one that render() shows.
+    connect(strip, &QTabWidget::currentChanged, this, [this, control, strip](int tab) {
+        if (!rendering_ && strip->isVisible())
+            guard([&] { model_.choose(control, tab); });
+    });
+    tabs_.push_back({control, strip, std::nullopt});
+    return strip;
+}
+
+void FormView::status(QWidget* widget, const QString& text)
+{
+    statusTexts_[widget] = text;
+    widget->installEventFilter(this);
+}
+
+QWidget* FormView::widgetOf(const Control& control) const
+{
+    for (const auto& [widget, bound] : controls_)
+        if (bound == control)
+            return const_cast<QWidget*>(static_cast<const QWidget*>(widget));
+    return nullptr;
+}
+
+const Control* FormView::controlOf(const QObject* widget) const
+{
+    const auto found = controls_.find(widget);
+    return found == controls_.end() ? nullptr : &found->second;
+}
+
+void FormView::guard(const std::function<void()>& step)
+{
+    runGuarded("the last entry in " + form_.windowTitle().toStdString(), step, &ui_);
+}
+
+void FormView::detach()
+{
+    detached_ = true;
+    disconnect(&model_, nullptr, this, nullptr);
+    for (const auto& [widget, control] : controls_)
+        QObject::disconnect(widget, nullptr, this, nullptr);
+}
+
+bool FormView::eventFilter(QObject* watched, QEvent* event)
+{
+    if (detached_)
+        return QObject::eventFilter(watched, event);
+    bool swallowed = false;
+    guard([&] { swallowed = filterEvent(watched, event); });
+    return swallowed || QObject::eventFilter(watched, event);
+}
+
+bool FormView::refusesKey(const QLineEdit& field, const Control& control, const QKeyEvent& key) const
+{
+    const TextControl* state = model_.textOf(control);
+    return state && keyRefused(field, key, state->keys);
+}
+
+bool FormView::filterEvent(QObject* watched, QEvent* event)
+{
+    auto* field = qobject_cast<QLineEdit*>(watched);
+    const Control* control = field ? controlOf(field) : nullptr;
+    const TextControl* state = control ? model_.textOf(*control) : nullptr;
+    switch (event->type()) {
+    case QEvent::KeyPress: {
+        auto* key = static_cast<QKeyEvent*>(event);
+        if (enterAsTab_ && (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter)) {
+            // Enter walks through the fields as Tab does.
+            QKeyEvent tab(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
+            QCoreApplication::sendEvent(watched, &tab);
+            return true;
+        }
+        if (state && !state->locked) {
+            if (refusesKey(*field, *control, *key))
+                return true;
+            model_.keyTyped(*control);
+        }
+        break;
+    }
+    case QEvent::FocusOut:
+        if (state && !state->locked && !rendering_) {
+            field->setModified(false);
+            // The field shows the model's text again even where the model keeps the text it had.
+            for (auto& bound : fields_)
+                if (bound.widget == field)
+                    bound.shown.reset();
+            model_.commit(*control, field->text().toStdString());
+        }
+        break;
+    case QEvent::FocusIn:
+        if (field && !field->isReadOnly()) {
+            selectSoon(field);
+            if (static_cast<const QFocusEvent*>(event)->reason() == Qt::MouseFocusReason)
+                selectOnRelease_ = field;
+        }
+        break;
+    case QEvent::MouseButtonRelease:
+        if (field && field == selectOnRelease_ && !field->hasSelectedText())
+            selectSoon(field); // after the field has taken the release
+        selectOnRelease_ = nullptr;
+        break;
+    case QEvent::Enter:
+        if (const auto text = statusTexts_.find(watched); text != statusTexts_.end())
+            ui_.setStatusText(text->second.toStdString());
+        break;
+    default:
+        break;
+    }
+    return false;
+}
+
+void FormView::render()
+{
+    rendering_ = true;
+    if (const std::string caption = model_.windowCaption(); !caption.empty()) {
+        form_.setWindowTitle(QString::fromStdString(caption));
+        if (QWidget* holder = form_.parentWidget())
+            holder->setWindowTitle(form_.windowTitle());
+    }
+    renderFields();
+    renderLists();
+    renderCaptions();
+    renderButtons();
+    rendering_ = false;
+    if (const auto request = model_.takeFocusRequest())
+        if (QWidget* widget = widgetOf(*request); widget && form_.isVisible())
+            widget->setFocus();
+}
+
+void FormView::renderFields()
+{
+    for (auto& bound : fields_) {
+        const TextControl* state = model_.textOf(bound.control);
+        if (!state || bound.shown == *state)
+            continue;
+        QLineEdit* edit = bound.widget;
+        const bool first = !bound.shown;
+        const TextControl& was = first ? *state : *bound.shown;
+        // A field the user is typing in keeps what is typed until it is left.
+        const bool typing = edit->hasFocus() && edit->isModified();
+        if (!typing && edit->text() != QString::fromStdString(state->text))
+            edit->setText(QString::fromStdString(state->text));
+        if (first || was.enabled != state->enabled)
+            edit->setEnabled(state->enabled);
+        if (first || was.locked != state->locked || was.tabStop != state->tabStop) {
+            edit->setReadOnly(state->locked);
+            edit->setFocusPolicy(state->locked ? Qt::NoFocus : state->tabStop ? Qt::StrongFocus : Qt::ClickFocus);
+        }
+        if (first || was.keys != state->keys)
+            edit->setAlignment(state->keys == KeyRule::Text ? Qt::AlignLeft : Qt::AlignRight);
+        if (first || was.shade != state->shade)
+            paint(edit, state->shade, form_);
+        if (!state->toolTip.empty() && (first || was.toolTip != state->toolTip))
+            edit->setToolTip(QString::fromStdString(state->toolTip));
+        if (!typing)
+            bound.shown = *state;
+    }
+}
+
+void FormView::renderLists()
+{
+    for (auto& bound : lists_) {
+        const ListControl* state = model_.listOf(bound.control);
+        if (!state || bound.shown == *state)
+            continue;
+        if (bound.widget->currentIndex() != state->listIndex)
+            bound.widget->setCurrentIndex(state->listIndex);
+        bound.widget->setEnabled(state->enabled);
+        if (!bound.shown || bound.shown->shade != state->shade)
+            paint(bound.widget, state->shade, form_);
+        bound.shown = *state;
+    }
+    for (auto& bound : tabs_) {
+        const ListControl* state = model_.listOf(bound.control);
+        if (!state || bound.shown == *state)
+            continue;
+        if (bound.widget->currentIndex() != state->listIndex)
+            bound.widget->setCurrentIndex(state->listIndex);
+        bound.shown = *state;
+    }
+}
+
+void FormView::renderCaptions()
+{
+    for (auto& bound : labels_) {
+        const LabelControl* state = model_.labelOf(bound.control);
+        if (!state || bound.shown == *state)
+            continue;
+        if (!state->caption.empty())
+            bound.widget->setText(QString::fromStdString(state->caption));
+        bound.widget->setEnabled(!state->grey);
+        bound.shown = *state;
+    }
+    for (auto& bound : frames_) {
+        const FrameControl* state = model_.frameOf(bound.control);
+        if (!state || bound.shown == *state)
+            continue;
+        bound.widget->setTitle(QString::fromStdString(state->caption));
+        if (!bound.shown || bound.shown->bold != state->bold || bound.shown->red != state->red)
+            showCaptionStyle(bound.widget, *state);
+        bound.shown = *state;
+    }
+}
+
+void FormView::renderButtons()
+{
+    for (auto& bound : buttons_) {
+        const ButtonControl* state = model_.buttonOf(bound.control);
+        if (!state || bound.shown == *state)
+            continue;
+        QAbstractButton* button = bound.widget;
+        if (!state->caption.empty() && button->text() != QString::fromStdString(state->caption))
+            button->setText(QString::fromStdString(state->caption));
+        button->setEnabled(state->enabled);
+        if (button->isCheckable() && button->isChecked() != state->checked)
+            button->setChecked(state->checked);
+        button->setFocusPolicy(state->tabStop ? Qt::StrongFocus : Qt::ClickFocus);
+        if (!state->toolTip.empty())
+            button->setToolTip(QString::fromStdString(state->toolTip));
+        bound.shown = *state;
+    }
+}
+
+} // namespace kestrova
