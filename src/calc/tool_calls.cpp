@@ -259,6 +259,7 @@ std::vector<std::string> textList(const RequestArgs& a, const std::string& name,
 
 void flowConversionsConvert(const RequestArgs& a, JsonObject& result)
 {
+    using flow_conversions::txtData;
     FlowConversionsModel tool(nullptr);
     tool.Form_Load();
     tool.optUnits_Click(std::clamp<int>(a.integer16("units"), 0, 1));
@@ -267,30 +268,43 @@ void flowConversionsConvert(const RequestArgs& a, JsonObject& result)
     const json& texts = objectArgument(a.raw(), "texts");
     checkControlNames(texts, {{"txtData", 8}});
     const int field = std::clamp<int>(a.integer16("field"), 0, 7);
+    std::map<int, std::string> given;
     for (const auto& [index, value] : controlsOf(texts, "txtData", 8))
-        tool.txtData[static_cast<size_t>(index)].text = textValue(*value, "txtData(" + std::to_string(index) + ")");
-    // The other given fields were left before: they hold their values.
+        given[index] = textValue(*value, "txtData(" + std::to_string(index) + ")");
+    // The other given fields were left before: they hold their values; a
+    // field that takes no typing keeps its own text.
+    for (const auto& [index, text] : given)
+        tool.textEdited(txtData(index), text);
     try {
-        for (const auto& [index, value] : controlsOf(texts, "txtData", 8))
-            if (index != field && tool.txtData[static_cast<size_t>(index)].role == ConversionRole::Input)
-                tool.commitText(index);
+        for (const auto& [index, text] : given)
+            if (index != field && !tool.view().txtData[static_cast<size_t>(index)].locked)
+                tool.commitText(index, text);
     } catch (const NumericFault&) {
     }
     tool.txtData_LostFocus(field);
+    const FlowConversionsState& form = tool.view();
     JsonObject shown;
     for (int i = 0; i < 8; ++i)
-        shown.text("txtData(" + std::to_string(i) + ")", tool.txtData[static_cast<size_t>(i)].text);
+        shown.text("txtData(" + std::to_string(i) + ")", form.txtData[static_cast<size_t>(i)].text);
+    const FlowConversionsData& v = form.values;
     JsonObject fields;
-    fields.single("StdTemperature", tool.StdTemperature)
-        .single("StdPressure", tool.StdPressure)
-        .single("StdMolarVolume", tool.StdMolarVolume)
-        .single("FlowTemperature", tool.FlowTemperature)
-        .single("FlowPressure", tool.FlowPressure)
-        .single("FlowSCFM", tool.FlowSCFM)
-        .single("FlowACFM", tool.FlowACFM)
-        .single("FlowGPM", tool.FlowGPM)
-        .single("FlowLBHR", tool.FlowLBHR);
+    fields.single("StdTemperature", v.StdTemperature)
+        .single("StdPressure", v.StdPressure)
+        .single("StdMolarVolume", v.StdMolarVolume)
+        .single("FlowTemperature", v.FlowTemperature)
+        .single("FlowPressure", v.FlowPressure)
+        .single("FlowSCFM", v.FlowSCFM)
+        .single("FlowACFM", v.FlowACFM)
+        .single("FlowGPM", v.FlowGPM)
+        .single("FlowLBHR", v.FlowLBHR);
     result.raw("texts", shown.str()).raw("fields", fields.str());
+}
+
+// The text of a control of a tool, as its window would show it.
+std::string shownText(const FormModel& tool, const Control& control)
+{
+    const TextControl* text = tool.textOf(control);
+    return text ? text->text : std::string();
 }
 
 void gasDensityCompute(const RequestArgs& a, JsonObject& result)
@@ -299,19 +313,17 @@ void gasDensityCompute(const RequestArgs& a, JsonObject& result)
     GasDensityModel tool(ui);
     tool.Form_Load();
     tool.Form_Activate();
-    tool.temperature = a.single("temperature");
-    tool.pressure = a.single("pressure");
-    tool.molecularWeight = a.single("molecularWeight");
-    tool.compressibility = a.single("compressibility");
-    tool.txtData[3] = plainNumberText(tool.molecularWeight);
-    tool.txtData[4] = plainNumberText(tool.compressibility);
-    for (int i = 0; i < 3; ++i)
-        tool.setUnit(i, tool.cboUnits[static_cast<size_t>(i)]);
+    GasDensityData values = tool.record();
+    values.temperature = a.single("temperature");
+    values.pressure = a.single("pressure");
+    values.molecularWeight = a.single("molecularWeight");
+    values.compressibility = a.single("compressibility");
+    tool.useRecord(values);
     tool.ComputeDensity();
     JsonObject texts;
-    for (int i = 0; i < 5; ++i)
-        texts.text("txtData(" + std::to_string(i) + ")", tool.txtData[static_cast<size_t>(i)]);
-    result.single("density", tool.density).raw("texts", texts.str());
+    for (int i = 0; i < gas_density::kFields; ++i)
+        texts.text("txtData(" + std::to_string(i) + ")", shownText(tool, unit_field_dialog::txtData(i)));
+    result.single("density", tool.record().density).raw("texts", texts.str());
 }
 
 void compressFactorComputeZ(const RequestArgs& a, JsonObject& result)
@@ -319,40 +331,50 @@ void compressFactorComputeZ(const RequestArgs& a, JsonObject& result)
     ScriptedUserInterface ui;
     CompressFactorModel tool(ui, nullptr);
     tool.Form_Load();
-    tool.temperature = a.single("temperature");
-    tool.pressure = a.single("pressure");
-    tool.criticalTemperature = a.single("criticalTemperature");
-    tool.criticalPressure = a.single("criticalPressure");
-    tool.txtData[4] = a.textOr("acentricText", "");
+    CompressFactorData values = tool.record();
+    values.temperature = a.single("temperature");
+    values.pressure = a.single("pressure");
+    values.criticalTemperature = a.single("criticalTemperature");
+    values.criticalPressure = a.single("criticalPressure");
+    tool.useRecord(values);
+    tool.commitText(compress_factor::AcentricFactor, a.textOr("acentricText", ""));
     const json& hydrogen = a.raw().contains("hydrogen") ? a.raw()["hydrogen"] : json(false);
-    tool.hydrogen = hydrogen.is_boolean() ? hydrogen.get<bool>() : a.integer16("hydrogen") != 0;
+    tool.chkHydrogen_Click(hydrogen.is_boolean() ? hydrogen.get<bool>() : a.integer16("hydrogen") != 0);
     tool.optEOS_Click(std::clamp<int>(a.integer16("eos"), 0, 2));
-    result.text("txtData(5)", tool.txtData[5]);
+    result.text("txtData(5)", shownText(tool, unit_field_dialog::txtData(compress_factor::Z)));
 }
 
 void heatCapRatioComputeRatio(const RequestArgs& a, JsonObject& result)
 {
     ScriptedUserInterface ui;
     HeatCapRatioModel tool(ui);
-    tool.temperature = a.single("temperature");
-    tool.pressure = a.single("pressure");
-    tool.criticalTemperature = a.single("criticalTemperature");
-    tool.criticalPressure = a.single("criticalPressure");
-    tool.heatCapacity = a.single("heatCapacity");
+    HeatCapRatioData values = tool.record();
+    values.temperature = a.single("temperature");
+    values.pressure = a.single("pressure");
+    values.criticalTemperature = a.single("criticalTemperature");
+    values.criticalPressure = a.single("criticalPressure");
+    values.heatCapacity = a.single("heatCapacity");
+    tool.useRecord(values);
     tool.ComputeRatio();
-    result.single("ratio", tool.ratio).text("text", tool.txtData[5]).boolean("errorShown", tool.errorShown);
+    const LabelControl* checkInput = tool.labelOf(heat_cap_ratio::lblError);
+    result.single("ratio", tool.record().ratio)
+        .text("text", shownText(tool, unit_field_dialog::txtData(heat_cap_ratio::Ratio)))
+        .boolean("errorShown", checkInput && checkInput->visible);
 }
 
 void minorLossesSum(const RequestArgs& a, JsonObject& result)
 {
     ScriptedUserInterface ui;
     MinorLossesModel tool(ui);
-    const std::vector<std::string> quantities = textList(a, "quantities", 35);
-    const std::vector<std::string> kValues = textList(a, "kValues", 3);
-    std::copy(quantities.begin(), quantities.end(), tool.txtQuantity.begin());
-    std::copy(kValues.begin(), kValues.end(), tool.txtKValue.begin());
-    tool.Sum();
-    result.text("txtTotalK1", tool.txtTotalK1).text("txtTotalK2", tool.txtTotalK2).text("txtTotalK", tool.txtTotalK);
+    std::array<std::string, minor_losses::kFittings> quantities;
+    std::array<std::string, 3> kValues;
+    const std::vector<std::string> givenQuantities = textList(a, "quantities", 35);
+    const std::vector<std::string> givenKValues = textList(a, "kValues", 3);
+    std::copy(givenQuantities.begin(), givenQuantities.end(), quantities.begin());
+    std::copy(givenKValues.begin(), givenKValues.end(), kValues.begin());
+    tool.showTexts(quantities, kValues);
+    const MinorLossesState& form = tool.view();
+    result.text("txtTotalK1", form.txtTotalK1.text).text("txtTotalK2", form.txtTotalK2.text).text("txtTotalK", form.txtTotalK.text);
 }
 
 void reducerRow(ReducerKind kind, const RequestArgs& a, JsonObject& result)
@@ -364,16 +386,11 @@ void reducerRow(ReducerKind kind, const RequestArgs& a, JsonObject& result)
         throw RequestError("argument 'row' must be 0 to 9");
     // The angle and then the beta are left as a user leaves them: a value out
     // of range shows its message, empties the K and stops there.
-    bool valid = true;
-    if (row < ReducerModel::kGradualRows) {
-        tool.txtAngle[static_cast<size_t>(row)] = a.textOr("angle", "");
-        valid = tool.txtAngle_LostFocus(row);
-    }
-    if (valid) {
-        tool.txtBeta[static_cast<size_t>(row)] = a.textOr("beta", "");
-        tool.txtBeta_LostFocus(row);
-    }
-    result.text("txtKValue(" + std::to_string(row) + ")", tool.txtKValue[static_cast<size_t>(row)])
+    if (row < ReducerModel::kGradualRows)
+        tool.commit(reducer::txtAngle(row), a.textOr("angle", ""));
+    if (!tool.focusRequest())
+        tool.commit(reducer::txtBeta(row), a.textOr("beta", ""));
+    result.text("txtKValue(" + std::to_string(row) + ")", tool.view().txtKValue[static_cast<size_t>(row)].text)
         .raw("messages", messagesJson(ui));
 }
 

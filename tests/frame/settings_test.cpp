@@ -165,7 +165,7 @@ TEST_F(SettingsTest, ValuesOutOfRangeOrUnreadableFallBackToTheirDefaults)
     store.save("Settings", "PipeRoughness", "9");
     RoughnessModel roughness(ui, &store);
     roughness.Form_Load();
-    EXPECT_EQ(roughness.material, 0);
+    EXPECT_EQ(roughness.view().material, 0);
 }
 
 TEST_F(SettingsTest, ASettingsFileThatCannotBeWrittenIsReportedOnceAndKeepsItsOldContent)

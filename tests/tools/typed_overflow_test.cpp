@@ -128,36 +128,28 @@ TEST_F(TypedOverflowTest, DialogToolFields)
         flow.Form_Load();
         for (int conversion = 0; conversion < 6; ++conversion) {
             flow.optConversion_Click(conversion);
-            for (int i = 0; i < 8; ++i) {
-                flow.txtData[static_cast<size_t>(i)].text = typed;
-                ASSERT_NO_THROW(flow.txtData_LostFocus(i));
-            }
+            for (int i = 0; i < 8; ++i)
+                ASSERT_NO_THROW(flow.commit(flow_conversions::txtData(i), typed));
         }
         GasDensityModel density(ui);
         density.Form_Load();
         CompressFactorModel z(ui, nullptr);
         z.Form_Load();
         HeatCapRatioModel ratio(ui);
-        for (int i = 0; i < 6; ++i) {
-            if (i < 5) {
-                density.txtData[static_cast<size_t>(i)] = typed;
-                ASSERT_NO_THROW(density.txtData_LostFocus(i));
+        std::vector<std::string> texts;
+        for (FormModel* tool : std::initializer_list<FormModel*>{&density, &z, &ratio})
+            for (int i = 0; i < 6; ++i) {
+                ASSERT_NO_THROW(tool->commit(unit_field_dialog::txtData(i), typed));
+                if (const TextControl* field = tool->textOf(unit_field_dialog::txtData(i)))
+                    texts.push_back(field->text);
             }
-            z.txtData[static_cast<size_t>(i)] = typed;
-            ASSERT_NO_THROW(z.txtData_LostFocus(i));
-            ratio.txtData[static_cast<size_t>(i)] = typed;
-            ASSERT_NO_THROW(ratio.txtData_LostFocus(i));
-        }
         RoughnessModel roughness(ui, nullptr);
         roughness.Form_Load();
-        roughness.txtData = typed;
-        ASSERT_NO_THROW(roughness.txtData_LostFocus());
-        EXPECT_EQ(roughness.txtData, roughnessText(roughness.roughness, roughness.unit));
-        std::vector<std::string> texts{roughness.txtData};
-        texts.insert(texts.end(), density.txtData.begin(), density.txtData.end());
-        texts.insert(texts.end(), z.txtData.begin(), z.txtData.end());
-        texts.insert(texts.end(), ratio.txtData.begin(), ratio.txtData.end());
-        for (const auto& field : flow.txtData)
+        ASSERT_NO_THROW(roughness.commit(roughness::txtData, typed));
+        const RoughnessState& picked = roughness.view();
+        EXPECT_EQ(picked.txtData.text, roughnessText(picked.roughness, picked.cboUnits.listIndex));
+        texts.push_back(picked.txtData.text);
+        for (const auto& field : flow.view().txtData)
             texts.push_back(field.text);
         expectShowable(texts, "a dialog tool");
     }
@@ -167,31 +159,28 @@ TEST_F(TypedOverflowTest, MinorLossQuantitiesAndReducerRows)
 {
     // Thirty-seven nines in a fitting quantity, then Apply: the quantity is
     // no 16-bit count and counts as 0; the other fittings still sum.
+    using namespace minor_losses;
     MinorLossesModel losses(ui);
     losses.Form_Load();
-    losses.txtQuantity[4] = std::string(37, '9');
-    losses.txtQuantity[23] = "1"; // a swing check valve: K1 1500, K2 1.5
-    ASSERT_NO_THROW(losses.Sum());
-    EXPECT_EQ(losses.txtTotalK1, "1,500");
-    EXPECT_EQ(losses.txtTotalK2, "1.50");
-    losses.txtQuantity[5] = "40000";
-    losses.txtKValue[2] = "1e39";
-    ASSERT_NO_THROW(losses.txtKValue_LostFocus(2));
-    ASSERT_NO_THROW(losses.cmdApply_Click());
+    losses.commit(txtQuantity(4), std::string(37, '9'));
+    ASSERT_NO_THROW(losses.commit(txtQuantity(23), "1")); // a swing check valve: K1 1500, K2 1.5
+    EXPECT_EQ(losses.view().txtTotalK1.text, "1,500");
+    EXPECT_EQ(losses.view().txtTotalK2.text, "1.50");
+    losses.commit(txtQuantity(5), "40000");
+    ASSERT_NO_THROW(losses.commit(txtKValue(OtherLosses), "1e39"));
+    ASSERT_NO_THROW(losses.click(cmdApply));
     EXPECT_EQ(minorLossStore().quantities[0][4], 0);
     EXPECT_EQ(minorLossStore().quantities[0][5], 0);
     EXPECT_EQ(minorLossStore().quantities[0][23], 1);
     EXPECT_EQ(minorLossStore().otherK[0], 0.0);
 
     for (ReducerKind kind : {ReducerKind::Contraction, ReducerKind::Enlargement}) {
-        ReducerModel reducer(kind, ui);
-        reducer.Form_Load();
+        ReducerModel reducing(kind, ui);
+        reducing.Form_Load();
         for (const std::string& typed : kTooLarge) {
-            reducer.txtAngle[0] = typed;
-            ASSERT_NO_THROW(reducer.txtAngle_LostFocus(0));
-            reducer.txtBeta[5] = typed;
-            ASSERT_NO_THROW(reducer.txtBeta_LostFocus(5));
-            EXPECT_EQ(reducer.txtKValue[5], "");
+            ASSERT_NO_THROW(reducing.commit(reducer::txtAngle(0), typed));
+            ASSERT_NO_THROW(reducing.commit(reducer::txtBeta(5), typed));
+            EXPECT_EQ(reducing.view().txtKValue[5].text, "");
         }
     }
 }

@@ -320,7 +320,7 @@ private slots:
         dialog.findChild<QRadioButton*>("optPipeRoughness(8)")->click(); // glass
         QCOMPARE(dialog.findChild<QLineEdit*>("txtData")->text(), QString("0.000001"));
         dialog.findChild<QRadioButton*>("optPipeCondition(1)")->click(); // used: three times rougher
-        QCOMPARE(model.roughness, Single(0.000003));
+        QCOMPARE(model.view().roughness, Single(0.000003));
     }
 
     void enlargementRowFromAngleAndBeta()
@@ -348,7 +348,7 @@ private slots:
         dialog.show();
         auto* search = dialog.findChild<QLineEdit*>("txtSearch");
         QTest::keyClicks(search, "Methan"); // "Metha" would stop at Methacrylic acid
-        QCOMPARE(QString::fromStdString(model.compounds()[static_cast<size_t>(model.position)].name), QString("Methane"));
+        QCOMPARE(QString::fromStdString(model.compounds()[static_cast<size_t>(model.view().position)].name), QString("Methane"));
         QCOMPARE(dialog.findChild<QGroupBox*>("Frame1(3)")->title(), QString("Physical Properties:  Methane"));
     }
 };
@@ -437,7 +437,7 @@ private slots:
     }
 };
 
-int runFieldConventionsTests(int argc, char** argv); // field_conventions_test.cpp
+int runFormViewTests(int argc, char** argv); // form_view_test.cpp
 int runExceptionBarrierTests(int argc, char** argv); // exception_barrier_test.cpp
 
 int main(int argc, char** argv)
@@ -447,6 +447,6 @@ int main(int argc, char** argv)
     DialogWidgetsTest dialogs;
     PrintingAndSmallFormsTest printing;
     return QTest::qExec(&frame, argc, argv) | QTest::qExec(&dialogs, argc, argv) | QTest::qExec(&printing, argc, argv) |
-           runFieldConventionsTests(argc, argv) | runExceptionBarrierTests(argc, argv);
+           runFormViewTests(argc, argv) | runExceptionBarrierTests(argc, argv);
 }
 #include "frame_widgets_test.moc"

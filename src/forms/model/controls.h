@@ -24,9 +24,11 @@ struct Control {
 enum class KeyRule { Text, Number, SignedNumber, Digits };
 
 // A field's background: the window's colour, the system's grey of a disabled
-// field, the light blue tint (red 192, green 192, blue 255), or the pale
-// colour of a result.
-enum class FieldShade { Normal, Disabled, Tinted, Result };
+// field, the light blue tint (red 192, green 192, blue 255), the pale colour
+// of a result; and the three that say how far a value can be trusted: pale
+// yellow (a value in range), blue (none known), red (beyond a limit), the
+// last two with white text.
+enum class FieldShade { Normal, Disabled, Tinted, Result, PaleYellow, Blue, Red };
 
 struct TextControl {
     std::string text;
@@ -35,6 +37,7 @@ struct TextControl {
     bool locked = false; // takes no typing: a result, or a quantity being solved for
     FieldShade shade = FieldShade::Normal;
     KeyRule keys = KeyRule::Text;
+    bool red = false; // the text in pure red, as a warning
     std::string toolTip;
     bool operator==(const TextControl&) const = default;
 };
@@ -49,6 +52,7 @@ struct ListControl {
 struct LabelControl {
     std::string caption;
     bool grey = false;
+    bool visible = true;
     bool operator==(const LabelControl&) const = default;
 };
 
@@ -56,6 +60,7 @@ struct FrameControl {
     std::string caption;
     bool bold = false; // the caption only
     bool red = false;  // pure red caption
+    bool enabled = true; // a frame disabled greys all it holds
     bool operator==(const FrameControl&) const = default;
 };
 

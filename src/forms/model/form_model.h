@@ -31,6 +31,7 @@ public:
     virtual void click(const Control& /*control*/) {}
     virtual void choose(const Control& /*list*/, int /*entry*/) {}
     virtual void keyTyped(const Control& /*field*/) {}
+    virtual void doubleClick(const Control& /*control*/) {}
     // A field's text as the user types it, key by key: the field holds it as
     // it stands, so that what reads the form meanwhile (a data sheet) sees
     // what is on screen; the value is taken when the field is left.

@@ -52,14 +52,20 @@ QColor baseColour(FieldShade shade, const QWidget& form)
     switch (shade) {
     case FieldShade::Tinted: return tintColour();
     case FieldShade::Result: return form.palette().color(QPalette::Window).lighter(104);
+    case FieldShade::PaleYellow: return QColor(255, 255, 0x80); // 0x80FFFF in blue-green-red order
+    case FieldShade::Blue: return QColor(0, 0, 255);
+    case FieldShade::Red: return QColor(255, 0, 0);
     default: return QApplication::palette().color(QPalette::Base);
     }
 }
 
-void paint(QWidget* widget, FieldShade shade, const QWidget& form)
+void paint(QWidget* widget, FieldShade shade, const QWidget& form, bool redText = false)
 {
     QPalette p = widget->palette();
     p.setColor(QPalette::Base, baseColour(shade, form));
+    const bool dark = shade == FieldShade::Blue || shade == FieldShade::Red;
+    p.setColor(QPalette::Text, redText ? QColor(255, 0, 0) : dark ? QColor(Qt::white)
+                                                                 : QApplication::palette().color(QPalette::Text));
     p.setColor(QPalette::Button, shade == FieldShade::Tinted ? tintColour() : QApplication::palette().color(QPalette::Button));
     widget->setPalette(p);
 }
@@ -109,7 +115,7 @@ Widget* FormView::bind(Widget* widget, const Control& control)
 
 QLineEdit* FormView::field(const Control& control)
 {
-    auto* edit = bind(new QLineEdit, control);
+    auto* edit = bind(new QLineEdit(&form_), control);
     edit->setMinimumWidth(110);
     connect(edit, &QLineEdit::textEdited, this,
             [this, control](const QString& text) { guard([&] { model_.textEdited(control, text.toStdString()); }); });
@@ -119,7 +125,7 @@ QLineEdit* FormView::field(const Control& control)
 
 QComboBox* FormView::list(const Control& control, const QStringList& entries)
 {
-    auto* box = bind(new QComboBox, control);
+    auto* box = bind(new QComboBox(&form_), control);
     box->addItems(entries);
     box->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     connect(box, &QComboBox::activated, this, [this, control](int entry) { guard([&] { model_.choose(control, entry); }); });
@@ -139,21 +145,21 @@ QComboBox* FormView::unitList(const Control& control, const char* tag)
 
 QLabel* FormView::label(const Control& control, const QString& caption)
 {
-    auto* text = bind(new QLabel(caption), control);
+    auto* text = bind(new QLabel(caption, &form_), control);
     labels_.push_back({control, text, std::nullopt});
     return text;
 }
 
 QGroupBox* FormView::frame(const Control& control, const QString& caption)
 {
-    auto* box = bind(new QGroupBox(caption), control);
+    auto* box = bind(new QGroupBox(caption, &form_), control);
     frames_.push_back({control, box, std::nullopt});
     return box;
 }
 
 QPushButton* FormView::button(const Control& control, const QString& caption)
 {
-    auto* button = bind(new QPushButton(caption), control);
+    auto* button = bind(new QPushButton(caption, &form_), control);
     button->setAutoDefault(false);
     connect(button, &QPushButton::clicked, this, [this, control] { guard([&] { model_.click(control); }); });
     buttons_.push_back({control, button, std::nullopt});
@@ -162,7 +168,7 @@ QPushButton* FormView::button(const Control& control, const QString& caption)
 
 QRadioButton* FormView::option(const Control& control, const QString& caption)
 {
-    auto* option = bind(new QRadioButton(caption), control);
+    auto* option = bind(new QRadioButton(caption, &form_), control);
     connect(option, &QRadioButton::clicked, this, [this, control] { guard([&] { model_.click(control); }); });
     buttons_.push_back({control, option, std::nullopt});
     return option;
@@ -170,7 +176,7 @@ QRadioButton* FormView::option(const Control& control, const QString& caption)
 
 QCheckBox* FormView::check(const Control& control, const QString& caption)
 {
-    auto* box = bind(new QCheckBox(caption), control);
+    auto* box = bind(new QCheckBox(caption, &form_), control);
     connect(box, &QCheckBox::clicked, this, [this, control](bool on) { guard([&] { model_.choose(control, on ? 1 : 0); }); });
     buttons_.push_back({control, box, std::nullopt});
     return box;
@@ -178,7 +184,7 @@ QCheckBox* FormView::check(const Control& control, const QString& caption)
 
 QTabWidget* FormView::tabs(const Control& control)
 {
-    auto* strip = bind(new QTabWidget, control);
+    auto* strip = bind(new QTabWidget(&form_), control);
     // Only a tab the user brings to the front is told: not the first tab
     // added while the window is laid out, nor the one that render() shows.
     connect(strip, &QTabWidget::currentChanged, this, [this, control, strip](int tab) {
@@ -245,9 +251,12 @@ bool FormView::filterEvent(QObject* watched, QEvent* event)
     switch (event->type()) {
     case QEvent::KeyPress: {
         auto* key = static_cast<QKeyEvent*>(event);
-        if (enterAsTab_ && (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter)) {
-            // Enter walks through the fields as Tab does.
-            QKeyEvent tab(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
+        const bool enter = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
+        const bool arrow = key->key() == Qt::Key_Down || key->key() == Qt::Key_Up;
+        if ((enterAsTab_ && enter) || (arrowsWalk_ && field && arrow)) {
+            // Enter (and the arrows where they walk) moves through the fields as Tab does.
+            const bool back = key->key() == Qt::Key_Up;
+            QKeyEvent tab(QEvent::KeyPress, back ? Qt::Key_Backtab : Qt::Key_Tab, back ? Qt::ShiftModifier : Qt::NoModifier);
             QCoreApplication::sendEvent(watched, &tab);
             return true;
         }
@@ -279,6 +288,10 @@ bool FormView::filterEvent(QObject* watched, QEvent* event)
         if (field && field == selectOnRelease_ && !field->hasSelectedText())
             selectSoon(field); // after the field has taken the release
         selectOnRelease_ = nullptr;
+        break;
+    case QEvent::MouseButtonDblClick:
+        if (const Control* clicked = qobject_cast<QAbstractButton*>(watched) ? controlOf(watched) : nullptr)
+            model_.doubleClick(*clicked);
         break;
     case QEvent::Enter:
         if (const auto text = statusTexts_.find(watched); text != statusTexts_.end())
@@ -329,8 +342,8 @@ void FormView::renderFields()
         }
         if (first || was.keys != state->keys)
             edit->setAlignment(state->keys == KeyRule::Text ? Qt::AlignLeft : Qt::AlignRight);
-        if (first || was.shade != state->shade)
-            paint(edit, state->shade, form_);
+        if (first || was.shade != state->shade || was.red != state->red)
+            paint(edit, state->shade, form_, state->red);
         if (!state->toolTip.empty() && (first || was.toolTip != state->toolTip))
             edit->setToolTip(QString::fromStdString(state->toolTip));
         if (!typing)
@@ -370,6 +383,7 @@ void FormView::renderCaptions()
         if (!state->caption.empty())
             bound.widget->setText(QString::fromStdString(state->caption));
         bound.widget->setEnabled(!state->grey);
+        bound.widget->setVisible(state->visible);
         bound.shown = *state;
     }
     for (auto& bound : frames_) {
@@ -377,6 +391,7 @@ void FormView::renderCaptions()
         if (!state || bound.shown == *state)
             continue;
         bound.widget->setTitle(QString::fromStdString(state->caption));
+        bound.widget->setEnabled(state->enabled);
         if (!bound.shown || bound.shown->bold != state->bold || bound.shown->red != state->red)
             showCaptionStyle(bound.widget, *state);
         bound.shown = *state;

@@ -66,6 +66,8 @@ public:
     void status(QWidget* widget, const QString& text);
     // Enter walks through the fields as Tab does (the document windows).
     void setEnterAsTab(bool on) { enterAsTab_ = on; }
+    // The arrow keys walk too: down as Tab, up as Shift+Tab.
+    void setArrowsWalk(bool on) { arrowsWalk_ = on; }
 
     // Copies what changed onto the widgets; then the focus goes where the model asks.
     void render();
@@ -103,6 +105,7 @@ private:
     UserInterface& ui_;
     QWidget& form_;
     bool enterAsTab_ = false;
+    bool arrowsWalk_ = false;
     bool rendering_ = false;
     bool detached_ = false;
     std::map<const QObject*, Control> controls_;

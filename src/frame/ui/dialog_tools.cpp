@@ -75,8 +75,8 @@ struct ReducerTool {
 
 struct CompressFactorTool {
     explicit CompressFactorTool(GuiUserInterface& ui)
-        : model(ui, &ui.frame().settings()),
-          window(loaded(model), ui, ui.frame().model().dataBaseFileValid(), &ui.frame())
+        : model(ui, &ui.frame().settings(), ui.frame().model().dataBaseFileValid()),
+          window(loaded(model), ui, &ui.frame())
     {
     }
     CompressFactorModel model;
@@ -85,7 +85,7 @@ struct CompressFactorTool {
 
 struct HeatCapRatioTool {
     explicit HeatCapRatioTool(GuiUserInterface& ui)
-        : model(ui), window(model, ui, ui.frame().model().dataBaseFileValid(), &ui.frame())
+        : model(ui, ui.frame().model().dataBaseFileValid()), window(model, ui, &ui.frame())
     {
     }
     HeatCapRatioModel model;

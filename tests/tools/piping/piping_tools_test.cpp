@@ -45,7 +45,7 @@ protected:
     // The row of a table whose first cells read as given.
     int rowOf(int pipeClass, const std::vector<std::string>& start)
     {
-        const PipeTable& grid = tool.classes[static_cast<size_t>(pipeClass)].grid;
+        const PipeTable& grid = tool.view().classes[static_cast<size_t>(pipeClass)].grid;
         for (size_t r = 0; r < grid.rows.size(); ++r)
             if (std::equal(start.begin(), start.end(), grid.rows[r].begin()))
                 return static_cast<int>(r);
@@ -59,13 +59,16 @@ protected:
 
 TEST_F(PipeToolTest, SixInchScheduleFortyReadsItsDiameters)
 {
-    const PipeModel::ClassState& astm = tool.classes[0];
+    const PipeClassState& astm = tool.view().classes[0];
     ASSERT_EQ(astm.materials.front(), "Carbon Steel");
     EXPECT_EQ(astm.grid.headings, (std::vector<std::string>{"NPS", "OD, in", "Schedule", "Wall, in", "ID, in", "Flow Area, in²"}));
     const int row = rowOf(0, {"6", "6.625", "40/STD"});
     ASSERT_GE(row, 0);
     EXPECT_EQ(astm.grid.rows[static_cast<size_t>(row)][4], "6.065");
-    EXPECT_EQ(astm.roughnessText, "0.000150"); // ft, the global roughness unit
+    EXPECT_EQ(astm.txtRoughness.text, "0.000150"); // ft, the global roughness unit
+    EXPECT_FALSE(tool.view().cmdSelect.enabled); // a viewer by itself
+    tool.doubleClick(pipe_sizes::grdPipeSize(0)); // nothing to select for
+    EXPECT_FALSE(tool.closeRequested);
 
     const Single id = tool.SelectPipeID("ID", [&] {
         tool.setCurrentCell(0, row, 1); // the OD column while an ID is asked for
@@ -74,7 +77,7 @@ TEST_F(PipeToolTest, SixInchScheduleFortyReadsItsDiameters)
         EXPECT_EQ(ui.messages.back().title, "Pipe and Tubing Sizes");
         EXPECT_FALSE(tool.closeRequested);
         tool.setCurrentCell(0, row, 4);
-        tool.cmdSelect_Click();
+        tool.doubleClick(pipe_sizes::grdPipeSize(0)); // a double click on the grid selects
     });
     EXPECT_EQ(id, Single(6.065));
     EXPECT_EQ(pipeToolRoughness(), Single(0.00015));
@@ -85,9 +88,9 @@ TEST_F(PipeToolTest, TheIsoClassReturnsInchesAndUsedPipeIsThreeTimesRougher)
     tool.tabPipeClass_Click(1);
     const int row = rowOf(1, {"100", "114.3", "3.2"});
     ASSERT_GE(row, 0);
-    EXPECT_EQ(tool.classes[1].grid.rows[static_cast<size_t>(row)][3], "107.9");
+    EXPECT_EQ(tool.view().classes[1].grid.rows[static_cast<size_t>(row)][3], "107.9");
     tool.optCondition_Click(1, 1);
-    EXPECT_EQ(tool.classes[1].roughness, Single(0.00015) * 3);
+    EXPECT_EQ(tool.view().classes[1].roughness, Single(0.00015) * 3);
     const Single od = tool.SelectPipeID("OD", [&] {
         tool.setCurrentCell(1, row, 1);
         tool.cmdSelect_Click();
@@ -105,11 +108,12 @@ TEST_F(PipeToolTest, TheIsoClassReturnsInchesAndUsedPipeIsThreeTimesRougher)
 TEST_F(PipeToolTest, MaterialKindsListTheirOwnTables)
 {
     tool.optMaterial_Click(0, 2);
-    EXPECT_EQ(tool.classes[0].materials, (std::vector<std::string>{"Copper (ASTM B88)", "Stainless Steel Tubing (BWG)"}));
-    EXPECT_EQ(tool.classes[0].roughness, Single(0.000005));
+    EXPECT_EQ(tool.view().classes[0].materials, (std::vector<std::string>{"Copper (ASTM B88)", "Stainless Steel Tubing (BWG)"}));
+    EXPECT_EQ(tool.view().classes[0].roughness, Single(0.000005));
     EXPECT_EQ(store.get("Settings", "ASTMPipe", ""), "2");
     tool.setUnit(0, 2);
-    EXPECT_EQ(tool.classes[0].roughnessText, "0.0015"); // mm
+    EXPECT_EQ(tool.view().classes[0].txtRoughness.text, "0.0015"); // mm
+    EXPECT_TRUE(tool.view().classes[0].optMaterial[2].checked);
 }
 
 TEST(PipeToolMissingData, SaysSoAndDoesNotFail)
@@ -120,34 +124,41 @@ TEST(PipeToolMissingData, SaysSoAndDoesNotFail)
     tool.Form_Load();
     ASSERT_FALSE(ui.messages.empty());
     EXPECT_NE(ui.messages.front().text.find("cannot be found"), std::string::npos);
-    EXPECT_TRUE(tool.classes[0].materials.empty());
+    EXPECT_TRUE(tool.view().classes[0].materials.empty());
 }
 
 TEST(RoughnessPicker, MaterialsConditionsAndTypedValues)
 {
+    using namespace roughness;
     ScriptedUserInterface ui;
     RoughnessModel tool(ui, nullptr);
     tool.Form_Load();
     tool.Form_Activate();
-    tool.optPipeRoughness_Click(4);
-    tool.optPipeCondition_Click(1);
-    EXPECT_EQ(tool.roughness, Single(0.0165)); // used concrete is new riveted steel
-    tool.optPipeRoughness_Click(8);
-    tool.optPipeCondition_Click(0);
-    EXPECT_EQ(tool.txtData, "0.000001"); // glass in ft
-    tool.txtData = "0";
-    tool.txtData_LostFocus();
+    tool.click(optPipeRoughness(4));
+    tool.click(optPipeCondition(1));
+    EXPECT_EQ(tool.view().roughness, Single(0.0165)); // used concrete is new riveted steel
+    tool.click(optPipeRoughness(8));
+    tool.click(optPipeCondition(0));
+    EXPECT_EQ(tool.view().txtData.text, "0.000001"); // glass in ft
+    tool.commit(txtData, "0");
+    tool.doubleClick(optPipeRoughness(8)); // a viewer by itself: nothing is selected
+    EXPECT_FALSE(tool.closeRequested);
     const Single chosen = tool.SelectRoughness([&] {
-        tool.cmdSelect_Click();
+        tool.click(cmdSelect);
         EXPECT_EQ(ui.messages.back().text, "Enter an absolute roughness to use.");
         EXPECT_FALSE(tool.closeRequested);
-        tool.setUnit(2);
-        tool.txtData = "0.05";
-        tool.txtData_LostFocus();
-        tool.cmdSelect_Click();
+        tool.choose(cboUnits, 2); // mm
+        tool.commit(txtData, "0.05");
+        tool.click(cmdSelect);
     });
     EXPECT_NEAR(chosen, 0.05 / 304.8, 1e-9);
-    EXPECT_EQ(tool.SelectRoughness([&] { tool.cmdExit_Click(); }), 0);
+    EXPECT_EQ(tool.SelectRoughness([&] { tool.click(cmdExit); }), 0);
+    // A double click on a material (its click first) selects it while a tool asks for one.
+    const Single clicked = tool.SelectRoughness([&] {
+        tool.click(optPipeRoughness(3));
+        tool.doubleClick(optPipeRoughness(3));
+    });
+    EXPECT_EQ(clicked, Single(0.0005));
 }
 
 class MinorLossesTest : public testing::Test {
@@ -157,50 +168,62 @@ protected:
         minorLossStore() = MinorLossStore{};
         CurrentLine() = 0;
     }
+    // Typed key by key, then left.
+    void type(const Control& field, const std::string& text)
+    {
+        tool.textEdited(field, text);
+        tool.commit(field, text);
+    }
+    void clearQuantities()
+    {
+        for (int n = 0; n < minor_losses::kFittings; ++n)
+            type(minor_losses::txtQuantity(n), "");
+    }
+    const MinorLossesState& form() const { return tool.view(); }
     ScriptedUserInterface ui;
     MinorLossesModel tool;
 };
 
 TEST_F(MinorLossesTest, SumsOfTheTwoKMethod)
 {
+    using minor_losses::txtQuantity;
     tool.Form_Load();
     EXPECT_TRUE(ui.messages.empty()); // an empty slot is reset without a question
-    tool.txtQuantity[4] = "2";  // standard screwed 90° elbows
-    tool.txtQuantity[23] = "1"; // swing check valve
-    tool.txtQuantity[0] = "0";
-    tool.Sum();
-    EXPECT_EQ(tool.txtTotalK1, "3,100");
-    EXPECT_EQ(tool.txtTotalK2, "2.30");
-    EXPECT_EQ(tool.txtQuantity[0], ""); // a zero is emptied
-    tool.txtQuantity = {};
-    tool.txtQuantity[27] = "1"; // pipe exit
-    tool.txtQuantity[30] = "1"; // stub-in through flow
-    tool.Sum();
-    EXPECT_EQ(tool.txtTotalK1, "100");
-    EXPECT_EQ(tool.txtTotalK2, "1.00");
+    EXPECT_EQ(form().txtQuantity[4].keys, KeyRule::Digits); // a count: digits alone
+    type(txtQuantity(4), "2");  // standard screwed 90° elbows
+    type(txtQuantity(23), "1"); // swing check valve
+    type(txtQuantity(0), "0");
+    EXPECT_EQ(form().txtTotalK1.text, "3,100");
+    EXPECT_EQ(form().txtTotalK2.text, "2.30");
+    EXPECT_EQ(form().txtQuantity[0].text, ""); // a zero is emptied
+    clearQuantities();
+    tool.textEdited(txtQuantity(27), "1"); // pipe exit: the sums follow each keystroke
+    EXPECT_EQ(form().txtTotalK2.text, "1.00");
+    type(txtQuantity(30), "1"); // stub-in through flow
+    EXPECT_EQ(form().txtTotalK1.text, "100");
+    EXPECT_EQ(form().txtTotalK2.text, "1.00");
     // Three long radius 45° elbows: K2 0.15 each, a single, and each addition
     // is stored as a single: 0.450000018, not 0.449999988 (one rounding of 0.45).
-    tool.txtQuantity = {};
-    tool.txtQuantity[1] = "3";
-    tool.Sum();
-    EXPECT_EQ(tool.K1Sum.value(), 1500.0f);
-    EXPECT_EQ(tool.K2Sum.value(), 0.15f + 0.15f + 0.15f);
-    EXPECT_NE(tool.K2Sum.value(), 0.45f);
-    tool.txtQuantity[1] = "1";
-    tool.txtQuantity[3] = "1";
-    tool.txtQuantity[6] = "1";
-    tool.Sum();
-    EXPECT_EQ(tool.K2Sum.value(), (0.15f + 0.15f) + 0.2f);
+    clearQuantities();
+    type(txtQuantity(1), "3");
+    EXPECT_EQ(form().K1Sum.value(), 1500.0f);
+    EXPECT_EQ(form().K2Sum.value(), 0.15f + 0.15f + 0.15f);
+    EXPECT_NE(form().K2Sum.value(), 0.45f);
+    type(txtQuantity(1), "1");
+    type(txtQuantity(3), "1");
+    type(txtQuantity(6), "1");
+    EXPECT_EQ(form().K2Sum.value(), (0.15f + 0.15f) + 0.2f);
 }
 
 TEST_F(MinorLossesTest, ApplyStoresTheSlotAndCloseKeepsTheOldSums)
 {
+    using namespace minor_losses;
     tool.Form_Load();
     tool.GetKValue([&] {
-        tool.txtQuantity[18] = "1"; // globe valve
-        tool.txtKValue[2] = "0.5";
-        tool.Sum();
-        tool.cmdApply_Click();
+        type(txtQuantity(18), "1"); // globe valve
+        type(txtKValue(OtherLosses), "0.5");
+        EXPECT_EQ(form().txtKValue[OtherLosses].text, "0.500"); // reformatted as it is left
+        tool.click(cmdApply);
     });
     EXPECT_EQ(minorLossStore().SegK1[0], 1500);
     EXPECT_EQ(minorLossStore().SegK2[0], 4);
@@ -210,28 +233,28 @@ TEST_F(MinorLossesTest, ApplyStoresTheSlotAndCloseKeepsTheOldSums)
 
     MinorLossesModel again(ui);
     again.Form_Load();
-    EXPECT_EQ(again.txtQuantity[18], "1");
+    EXPECT_EQ(again.view().txtQuantity[18].text, "1");
     again.GetKValue([&] {
-        again.txtQuantity[18] = "5";
-        again.Sum();
-        again.cmdClose_Click();
+        again.textEdited(txtQuantity(18), "5");
+        again.click(cmdClose);
     });
     EXPECT_EQ(minorLossStore().SegK1[0], 1500);
 }
 
 TEST_F(MinorLossesTest, ReducerKValuesAndTheirCancelValue)
 {
+    using namespace minor_losses;
     tool.Form_Load();
     ui.contractionAnswers = {0.156, 1.0};
-    tool.cmdContractionTable_Click();
-    EXPECT_EQ(tool.txtKValue[1], "0.156");
+    tool.click(cmdContractionTable);
+    EXPECT_EQ(form().txtKValue[Contractions].text, "0.156");
     EXPECT_EQ(minorLossStore().contractionK, Single(0.156));
-    tool.cmdContractionTable_Click(); // a K of exactly 1 looks like a cancel
-    EXPECT_EQ(tool.txtKValue[1], "0.156");
+    tool.click(cmdContractionTable); // a K of exactly 1 looks like a cancel
+    EXPECT_EQ(form().txtKValue[Contractions].text, "0.156");
     ui.answers = {MessageAnswer::Cancel};
-    tool.cmdReset_Click();
+    tool.click(cmdReset);
     EXPECT_EQ(ui.messages.back().text, "Are you sure you want to reset all K values?");
-    EXPECT_EQ(tool.txtKValue[1], "0.156");
+    EXPECT_EQ(form().txtKValue[Contractions].text, "0.156");
 }
 
 namespace {
@@ -239,12 +262,14 @@ namespace {
 // A row typed as a user types it: the angle left, then the beta left.
 void typeRow(ReducerModel& tool, int row, const char* angle, const char* beta)
 {
-    if (angle) {
-        tool.txtAngle[static_cast<size_t>(row)] = angle;
-        tool.txtAngle_LostFocus(row);
-    }
-    tool.txtBeta[static_cast<size_t>(row)] = beta;
-    tool.txtBeta_LostFocus(row);
+    if (angle)
+        tool.commit(reducer::txtAngle(row), angle);
+    tool.commit(reducer::txtBeta(row), beta);
+}
+
+std::string kOf(const ReducerModel& tool, int row)
+{
+    return tool.view().txtKValue[static_cast<size_t>(row)].text;
 }
 
 } // namespace
@@ -258,23 +283,22 @@ TEST(Reducers, FormulasOfTheGradualAndSuddenRows)
     ScriptedUserInterface ui;
     ReducerModel contraction(ReducerKind::Contraction, ui);
     typeRow(contraction, 0, "30", "0.5");
-    EXPECT_EQ(contraction.txtKValue[0], "0.156");
+    EXPECT_EQ(kOf(contraction, 0), "0.156");
     typeRow(contraction, 1, "45", "0.5");
-    EXPECT_EQ(contraction.txtKValue[1], "0.232");
+    EXPECT_EQ(kOf(contraction, 1), "0.232");
     typeRow(contraction, 5, nullptr, "0.5");
-    EXPECT_EQ(contraction.txtKValue[5], "0.563");
-    EXPECT_EQ(contraction.txtTotalK, "0.951");
-    contraction.txtAngle[2] = "30";
-    contraction.txtAngle_LostFocus(2); // an angle with no beta has no K
-    EXPECT_EQ(contraction.txtKValue[2], "");
+    EXPECT_EQ(kOf(contraction, 5), "0.563");
+    EXPECT_EQ(contraction.view().txtTotalK.text, "0.951");
+    contraction.commit(reducer::txtAngle(2), "30"); // an angle with no beta has no K
+    EXPECT_EQ(kOf(contraction, 2), "");
 
     ReducerModel enlargement(ReducerKind::Enlargement, ui);
     typeRow(enlargement, 0, "30", "0.5");
-    EXPECT_EQ(enlargement.txtKValue[0], "0.381");
+    EXPECT_EQ(kOf(enlargement, 0), "0.381");
     typeRow(enlargement, 1, "90", "0.5");
-    EXPECT_EQ(enlargement.txtKValue[1], "0.563");
+    EXPECT_EQ(kOf(enlargement, 1), "0.563");
     typeRow(enlargement, 6, nullptr, "0.5");
-    EXPECT_EQ(enlargement.txtKValue[6], "0.563");
+    EXPECT_EQ(kOf(enlargement, 6), "0.563");
     EXPECT_TRUE(ui.messages.empty());
 }
 
@@ -285,19 +309,18 @@ TEST(Reducers, ValidationMessagesAndTheEntryPoint)
     enlargementStore() = ReducerStore{};
     ReducerModel tool(ReducerKind::Enlargement, ui);
     tool.Form_Load();
-    tool.txtAngle[0] = "180";
-    EXPECT_FALSE(tool.txtAngle_LostFocus(0));
+    tool.commit(reducer::txtAngle(0), "180");
     EXPECT_EQ(ui.messages.back().title, "Englargements");
     EXPECT_EQ(ui.messages.back().text, "Invalid angle entered.\n \nThe angle entered must be between 0 and 180 degrees.");
-    EXPECT_EQ(tool.focusRequest, "txtAngle(0)");
-    tool.txtBeta[6] = "1";
-    EXPECT_FALSE(tool.txtBeta_LostFocus(6));
+    EXPECT_EQ(tool.takeFocusRequest(), std::optional<Control>(reducer::txtAngle(0)));
+    tool.commit(reducer::txtBeta(6), "1");
+    EXPECT_EQ(tool.takeFocusRequest(), std::optional<Control>(reducer::txtBeta(6)));
     EXPECT_EQ(ui.messages.back().text, "Invalid beta entered.\n \nBeta must be between 0 and 1.");
 
     const Single k = tool.GetK([&] {
-        tool.txtBeta[6] = "0.5";
-        EXPECT_TRUE(tool.txtBeta_LostFocus(6));
-        tool.cmdApply_Click();
+        tool.commit(reducer::txtBeta(6), "0.5");
+        EXPECT_FALSE(tool.focusRequest());
+        tool.click(reducer::cmdApply);
     });
     EXPECT_EQ(k, Single(0.563));
     EXPECT_TRUE(enlargementStore().hasData[3]);

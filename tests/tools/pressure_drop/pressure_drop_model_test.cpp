@@ -458,7 +458,7 @@ TEST_F(PressureDropTest, WaterFromThePropertiesToolGivesTheSameTwoPhaseLineAsWat
     properties.GetPhysicalProperties(FluidKind::Liquid, 77, [&] { properties.cmdSelect_Click(); });
     ASSERT_EQ(physProps().liquidName, "Water");
     properties.setUnit(5, 0);
-    EXPECT_EQ(properties.txtPhysProp[5], "71.7929"); // dyn/cm in the properties tool
+    EXPECT_EQ(properties.view().txtPhysProp[5].text, "71.7929"); // dyn/cm in the properties tool
 
     tool.SSTab1_Click(2);
     ui.propertiesApplied = {true};

@@ -28,6 +28,13 @@ double z(double t, double p, double omega, int eos, bool hydrogen = false)
     return computeCompressibility(t, p, kMethaneTc, kMethanePc, omega, eos, hydrogen);
 }
 
+// A control's text as the window shows it.
+std::string shown(const FormModel& tool, const Control& control)
+{
+    const TextControl* text = tool.textOf(control);
+    return text ? text->text : "(no control)";
+}
+
 } // namespace
 
 TEST(Compressibility, CubicEquationsAgainstPublishedMethaneValues)
@@ -49,15 +56,17 @@ TEST(Compressibility, CubicEquationsAgainstPublishedMethaneValues)
 
 TEST(Compressibility, TheToolShowsZAndRefusesToApplyWithout)
 {
+    using namespace compress_factor;
+    using unit_field_dialog::txtData;
     QTemporaryDir dir;
     SettingsStore store(dir.filePath("Kestrova.ini"));
     ScriptedUserInterface ui;
     CompressFactorModel tool(ui, &store);
     tool.Form_Load();
-    EXPECT_EQ(tool.eos, 0);
-    EXPECT_FALSE(tool.acentricEnabled);
+    EXPECT_EQ(tool.eos(), 0);
+    EXPECT_FALSE(tool.textOf(txtData(AcentricFactor))->enabled); // Redlich-Kwong takes no omega
     tool.Form_Activate();
-    EXPECT_EQ(tool.txtData[5], ""); // all inputs zero
+    EXPECT_EQ(shown(tool, txtData(Z)), ""); // all inputs zero
     tool.cmdApply_Click();
     EXPECT_EQ(ui.messages.back().text, "A compressibility factor has not been computed.");
 
@@ -66,10 +75,11 @@ TEST(Compressibility, TheToolShowsZAndRefusesToApplyWithout)
     physProps().acentricFactor = 0.011;
     physProps().gasName = "Methane";
     const Single result = tool.GetZValue(100, 1000, [&] {
-        EXPECT_EQ(tool.inputsCaption, "Inputs:  Methane");
-        tool.optEOS_Click(2);
-        EXPECT_TRUE(tool.acentricEnabled);
-        EXPECT_EQ(tool.txtData[5], "0.8880");
+        EXPECT_EQ(tool.frameOf(inputsFrame)->caption, "Inputs:  Methane");
+        tool.click(optEOS(2));
+        EXPECT_TRUE(tool.textOf(txtData(AcentricFactor))->enabled);
+        EXPECT_TRUE(tool.buttonOf(optEOS(2))->checked);
+        EXPECT_EQ(shown(tool, txtData(Z)), "0.8880");
         tool.cmdApply_Click();
     });
     EXPECT_EQ(result, Single(0.888));
@@ -77,42 +87,63 @@ TEST(Compressibility, TheToolShowsZAndRefusesToApplyWithout)
     EXPECT_EQ(tool.GetZValue(100, 1000, [&] { tool.cmdClose_Click(); }), 0);
 
     // After a reset the empty acentric factor takes the error path.
+    ui.answers = {MessageAnswer::Ok};
     tool.cmdReset_Click();
-    tool.txtData = {"100", "1000", "-116.65", "667", "", ""};
-    for (int i = 0; i < 4; ++i)
-        tool.txtData_LostFocus(i);
-    EXPECT_EQ(tool.txtData[5], "");
+    EXPECT_EQ(shown(tool, txtData(AcentricFactor)), "");
+    for (const auto& [field, text] : {std::pair{Temperature, "100"}, {Pressure, "1000"},
+                                      {CriticalTemperature, "-116.65"}, {CriticalPressure, "667"}})
+        tool.commit(txtData(field), text);
+    EXPECT_EQ(shown(tool, txtData(Z)), "");
     physProps() = PhysProps{};
 }
 
 TEST(HeatCapacityRatio, RealGasCalculationAndTypicalValues)
 {
+    using namespace heat_cap_ratio;
+    using unit_field_dialog::txtData;
     ScriptedUserInterface ui;
     HeatCapRatioModel tool(ui);
-    tool.temperature = 60;
-    tool.pressure = 14.696;
-    tool.criticalTemperature = kMethaneTc;
-    tool.criticalPressure = kMethanePc;
-    tool.heatCapacity = 35.7; // methane, kJ/(kmol K)
+    HeatCapRatioData methane{};
+    methane.temperature = 60;
+    methane.pressure = 14.696;
+    methane.criticalTemperature = kMethaneTc;
+    methane.criticalPressure = kMethanePc;
+    methane.heatCapacity = 35.7; // kJ/(kmol K)
+    tool.useRecord(methane);
     tool.ComputeRatio();
     // Ideal gas: 35.7 / (35.7 - 8.314) = 1.3036; the residual term adds a little.
-    EXPECT_NEAR(tool.ratio, 1.3036, 0.003);
-    EXPECT_EQ(tool.txtData[5], "1.305");
-    EXPECT_FALSE(tool.errorShown);
-    tool.Option1_Click(11);
-    EXPECT_EQ(tool.txtData[5], "1.31");
-    EXPECT_NEAR(tool.ratio, 1.305, 0.001); // the ratio itself is not changed
-    tool.Option1_Click(17);
-    EXPECT_EQ(tool.txtData[5], "1.305");
-    tool.heatCapacity = 5;
-    tool.ComputeRatio();
-    EXPECT_LT(tool.ratio, 0);
-    EXPECT_TRUE(tool.errorShown);
-    tool.heatCapacity = 0;
-    tool.ComputeRatio();
-    EXPECT_EQ(tool.ratio, 0);
-    EXPECT_TRUE(tool.errorShown);
+    EXPECT_NEAR(tool.record().ratio, 1.3036, 0.003);
+    EXPECT_EQ(shown(tool, txtData(Ratio)), "1.305");
+    EXPECT_FALSE(tool.labelOf(lblError)->visible);
+    EXPECT_FALSE(tool.textOf(txtData(Ratio))->red);
+    tool.click(Option1(11));
+    EXPECT_EQ(shown(tool, txtData(Ratio)), "1.31");
+    EXPECT_NEAR(tool.record().ratio, 1.305, 0.001); // the ratio itself is not changed
+    tool.click(Option1(17));
+    EXPECT_EQ(shown(tool, txtData(Ratio)), "1.305");
+    tool.setUnit(HeatCapacity, 2); // kJ/(kmol K)
+    tool.commit(txtData(HeatCapacity), "5");
+    EXPECT_LT(tool.record().ratio, 0);
+    EXPECT_TRUE(tool.labelOf(lblError)->visible); // "(Check Input)", and the ratio in red
+    EXPECT_TRUE(tool.textOf(txtData(Ratio))->red);
+    tool.commit(txtData(HeatCapacity), "0");
+    EXPECT_EQ(tool.record().ratio, 0);
+    EXPECT_TRUE(tool.labelOf(lblError)->visible);
     EXPECT_EQ(typicalRatios()[1].formula, std::string("O2, N2, Air, H2, CO, NO, etc."));
+    EXPECT_EQ(tool.buttonOf(Option1(1))->toolTip, "O2, N2, Air, H2, CO, NO, etc.");
+}
+
+TEST(HeatCapacityRatio, ADoubleClickOnATypicalValueAppliesIt)
+{
+    using namespace heat_cap_ratio;
+    ScriptedUserInterface ui;
+    HeatCapRatioModel tool(ui);
+    const Single k = tool.GetHeatCapRatioValue(60, 14.696, [&] {
+        tool.click(Option1(6));
+        tool.doubleClick(Option1(6)); // carbon dioxide
+        EXPECT_TRUE(tool.closeRequested);
+    });
+    EXPECT_EQ(k, Single(1.28));
 }
 
 class PhysicalPropertiesTest : public testing::Test {
@@ -130,6 +161,7 @@ protected:
                 return static_cast<int>(i);
         return -1;
     }
+    const PhysicalPropertiesState& form() const { return tool.view(); }
     ScriptedUserInterface ui;
     PhysicalPropertiesModel tool;
 };
@@ -138,17 +170,17 @@ TEST_F(PhysicalPropertiesTest, WaterAt25CelsiusAgainstPublishedValues)
 {
     ASSERT_GT(tool.compounds().size(), 300u);
     tool.dbcComp_Click(positionOf("Water"));
-    EXPECT_EQ(tool.frameCaption, "Physical Properties:  Water");
-    EXPECT_NEAR(tool.value[8], 298.15, 1e-9);
+    EXPECT_EQ(form().frame.caption, "Physical Properties:  Water");
+    EXPECT_NEAR(form().value[8], 298.15, 1e-9);
     // 997.05 kg/m3, 0.890 mPa s, 3169.9 Pa (IAPWS).
-    EXPECT_NEAR(tool.value[0] * 18.01528, 997.05, 0.3);
-    EXPECT_NEAR(tool.value[1], 0.000890, 0.000005);
-    EXPECT_NEAR(tool.value[3], 3169.9, 5);
-    EXPECT_EQ(tool.shade[0], PropertyShade::InRange);
+    EXPECT_NEAR(form().value[0] * 18.01528, 997.05, 0.3);
+    EXPECT_NEAR(form().value[1], 0.000890, 0.000005);
+    EXPECT_NEAR(form().value[3], 3169.9, 5);
+    EXPECT_EQ(form().txtPhysProp[0].shade, FieldShade::PaleYellow);
     tool.setUnit(0, 2);
-    EXPECT_EQ(tool.txtPhysProp[0], "996.813"); // kg/m3, from the data base's fit
+    EXPECT_EQ(form().txtPhysProp[0].text, "996.813"); // kg/m3, from the data base's fit
     tool.setUnit(1, 0);
-    EXPECT_EQ(tool.txtPhysProp[1], "8.930E-01"); // cP
+    EXPECT_EQ(form().txtPhysProp[1].text, "8.930E-01"); // cP
 
     // Applied for a liquid, the properties go to the shared record in its units.
     physProps() = PhysProps{};
@@ -166,13 +198,14 @@ TEST_F(PhysicalPropertiesTest, MethaneHeatCapacityLimitsAndColours)
 {
     tool.dbcComp_Click(positionOf("Methane"));
     // Ideal-gas Cp at 298.15 K: 35.69 kJ/(kmol K).
-    EXPECT_NEAR(tool.value[4] / 1000, 35.69, 0.1);
+    EXPECT_NEAR(form().value[4] / 1000, 35.69, 0.1);
     tool.setUnit(4, 2);
-    EXPECT_EQ(tool.txtPhysProp[4], "35.778"); // kJ/(kmol K)
+    EXPECT_EQ(form().txtPhysProp[4].text, "35.778"); // kJ/(kmol K)
     // 25 °C is above methane's critical point: the liquid rows are out of range.
-    EXPECT_EQ(tool.shade[0], PropertyShade::OutOfRange);
-    EXPECT_EQ(tool.shade[4], PropertyShade::InRange);
-    EXPECT_EQ(tool.txtUTL[0], "-117"); // 190.56 K in °F
+    EXPECT_EQ(form().txtPhysProp[0].shade, FieldShade::Red);
+    EXPECT_EQ(form().txtPhysProp[4].shade, FieldShade::PaleYellow);
+    EXPECT_EQ(form().txtUTL[0].shade, FieldShade::Red); // the limits take the row's colour
+    EXPECT_EQ(form().txtUTL[0].text, "-117"); // 190.56 K in °F
     tool.GetPhysicalProperties(FluidKind::Gas, 77, [&] { tool.cmdSelect_Click(); });
     EXPECT_EQ(physProps().gasName, "Methane");
     EXPECT_NEAR(physProps().heatCapacity, 35.69, 0.1);
@@ -182,14 +215,24 @@ TEST_F(PhysicalPropertiesTest, MethaneHeatCapacityLimitsAndColours)
     physProps() = PhysProps{};
 }
 
+TEST_F(PhysicalPropertiesTest, TypingAFewLettersFindsTheCompound)
+{
+    tool.textEdited(physical_properties::txtSearch, "methan"); // the first that starts with them
+    EXPECT_EQ(tool.compounds()[static_cast<size_t>(form().position)].name.rfind("Methane", 0), 0u);
+    tool.textEdited(physical_properties::txtSearch, "ZZZNOTHING"); // nothing found: the compound stays
+    EXPECT_EQ(tool.compounds()[static_cast<size_t>(form().position)].name.rfind("Methane", 0), 0u);
+    tool.textEdited(physical_properties::txtSearch, "BUTANOL"); // in any case, anywhere in the name
+    EXPECT_NE(tool.compounds()[static_cast<size_t>(form().position)].name.find("Butanol"), std::string::npos);
+}
+
 TEST_F(PhysicalPropertiesTest, AMissingCorrelationShowsBlue)
 {
     const int butanol = positionOf("2-Butanol");
     ASSERT_GE(butanol, 0);
     tool.dbcComp_Click(butanol);
-    EXPECT_EQ(tool.shade[3], PropertyShade::Missing); // no vapour pressure
-    EXPECT_FALSE(tool.unitEnabled[3]);
-    EXPECT_EQ(tool.value[3], 0);
+    EXPECT_EQ(form().txtPhysProp[3].shade, FieldShade::Blue); // no vapour pressure
+    EXPECT_FALSE(form().cboPPUnits[3].enabled);
+    EXPECT_EQ(form().value[3], 0);
 }
 
 // A copy of the shipped compound data base, damaged on purpose.
@@ -241,10 +284,10 @@ TEST_F(DamagedCompoundsTest, AValueBeyondItsFieldMakesTheCompoundUnusableWithAMe
     ASSERT_EQ(ui.messages.size(), 1u);
     EXPECT_EQ(ui.messages[0].title, "Physical Properties");
     EXPECT_EQ(ui.messages[0].icon, MessageIcon::Stop);
-    EXPECT_EQ(tool.frameCaption, "Physical Properties:  Water");
-    EXPECT_EQ(tool.txtPhysProp[0], "");
-    EXPECT_EQ(tool.txtUTL[0], "");
-    EXPECT_EQ(tool.txtPhysProp[8], "77.00"); // the system temperature stays
+    EXPECT_EQ(tool.view().frame.caption, "Physical Properties:  Water");
+    EXPECT_EQ(tool.view().txtPhysProp[0].text, "");
+    EXPECT_EQ(tool.view().txtUTL[0].text, "");
+    EXPECT_EQ(tool.view().txtPhysProp[8].text, "77.00"); // the system temperature stays
     // Nothing of it is handed on: Select says so again and applies nothing.
     physProps() = PhysProps{};
     tool.GetPhysicalProperties(FluidKind::Liquid, 77, [&] { tool.cmdSelect_Click(); });
@@ -254,7 +297,7 @@ TEST_F(DamagedCompoundsTest, AValueBeyondItsFieldMakesTheCompoundUnusableWithAMe
     // Another compound is sound again.
     tool.dbcComp_Click(positionOf(compounds, "Nitrogen"));
     EXPECT_EQ(ui.messages.size(), 2u);
-    EXPECT_FALSE(tool.txtPhysProp[0].empty());
+    EXPECT_FALSE(tool.view().txtPhysProp[0].text.empty());
 }
 
 TEST_F(DamagedCompoundsTest, OnlyASoundCompoundTablePassesTheFileTest)

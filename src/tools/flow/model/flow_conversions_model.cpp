@@ -7,11 +7,11 @@
 #include "numeric/field_text.h"
 #include "numeric/numeric_fault.h"
 
-#include <map>
 #include <set>
 
 namespace kestrova {
 
+using namespace flow_conversions;
 using checked::Div;
 
 namespace {
@@ -34,13 +34,8 @@ const std::array<ConversionRoles, 6> kRoles{{{{1, 4}, 7, true},
                                              {{2, 3, 4}, 5, true},
                                              {{2, 3, 5}, 4, true}}};
 
-} // namespace
-
-FlowConversionsModel::FlowConversionsModel(SettingsStore* store, QObject* parent) : FormModel(parent), store_(store)
-{
-}
-
-std::string FlowConversionsModel::conversionCaption(int index) const
+// The captions of the options and labels in each system of units.
+const char* conversionCaption(int units, int index)
 {
     static const char* american[] = {"SCFM -> lbm/hr", "lbm/hr -> SCFM", "gpm -> lbm/hr",
                                      "lbm/hr -> gpm",  "SCFM -> ACFM",   "ACFM -> SCFM"};
@@ -49,16 +44,66 @@ std::string FlowConversionsModel::conversionCaption(int index) const
     return (units == 0 ? american : metric)[index];
 }
 
-std::string FlowConversionsModel::unitLabel(const std::string& labelName) const
+const char* unitCaption(int units, int label)
 {
-    static const std::map<std::string, std::pair<const char*, const char*>> labels{
-        {"lblUnitsFT", {"°F", "°C"}},           {"lblUnitsFP", {"psig", "barg"}},
-        {"lblUnitsSCFM", {"Std ft³/min", "Std m³/hr"}}, {"lblUnitsACFM", {"Act ft³/min", "Act m³/hr"}},
-        {"lblUnitsGPM", {"gpm", "m³/hr"}},       {"lblUnitsLBHR", {"lbm/hr", "kg/hr"}}};
-    const auto found = labels.find(labelName);
-    if (found == labels.end())
-        return {};
-    return units == 0 ? found->second.first : found->second.second;
+    static const std::array<std::pair<const char*, const char*>, 6> captions{
+        {{"°F", "°C"}, {"psig", "barg"}, {"Std ft³/min", "Std m³/hr"}, {"Act ft³/min", "Act m³/hr"}, {"gpm", "m³/hr"},
+         {"lbm/hr", "kg/hr"}}};
+    const auto& pair = captions[static_cast<size_t>(label)];
+    return units == 0 ? pair.first : pair.second;
+}
+
+} // namespace
+
+FlowConversionsModel::FlowConversionsModel(SettingsStore* store, QObject* parent) : FormModel(parent), store_(store)
+{
+    ControlRegistry& all = controls();
+    all.family("txtData", txtData);
+    all.family("optConversion", optConversion);
+    all.family("optSTP", optSTP);
+    all.family("optUnits", optUnits);
+    for (size_t i = 0; i < kUnitLabels.size(); ++i)
+        all.add(Control{kUnitLabels[i]}, unitLabels[i]);
+    all.add(flow_conversions::stpFrame, stpFrame);
+    all.add(flow_conversions::cmdApply, cmdApply);
+    cmdApply.enabled = false; // until a tool asks for a flow
+    showChoices();
+}
+
+// The options, the labels and the fields show the choices: the inputs of the
+// conversion take typing, its output is tinted, the other fields are off.
+void FlowConversionsModel::showChoices()
+{
+    const ConversionRoles& roles = kRoles[static_cast<size_t>(conversion)];
+    for (int i = 0; i < 6; ++i) {
+        ButtonControl& option = optConversion[static_cast<size_t>(i)];
+        option.caption = conversionCaption(units, i);
+        option.enabled = conversionEnabled_[static_cast<size_t>(i)];
+        option.checked = i == conversion;
+    }
+    for (int i = 0; i < 3; ++i)
+        optSTP[static_cast<size_t>(i)].checked = i == stp;
+    for (int i = 0; i < 2; ++i)
+        optUnits[static_cast<size_t>(i)].checked = i == units;
+    for (int i = 0; i < 6; ++i)
+        unitLabels[static_cast<size_t>(i)].caption = unitCaption(units, i);
+    stpFrame.enabled = stpEnabled_;
+    for (int i = 0; i < kFields; ++i) {
+        TextControl& field = txtData[static_cast<size_t>(i)];
+        const bool input = roles.inputs.count(i) > 0;
+        const bool output = i == roles.output;
+        field.locked = !input;
+        field.enabled = input || output;
+        field.tabStop = input;
+        field.keys = KeyRule::SignedNumber;
+        field.shade = output ? FieldShade::Tinted : input ? FieldShade::Normal : FieldShade::Disabled;
+    }
+}
+
+void FlowConversionsModel::clearTexts()
+{
+    for (TextControl& field : txtData)
+        field.text.clear();
 }
 
 void FlowConversionsModel::Form_Load()
@@ -91,13 +136,9 @@ void FlowConversionsModel::optConversion_Click(int index)
         return;
     ChangeNotice notice(*this);
     conversion = index;
-    const ConversionRoles& roles = kRoles[static_cast<size_t>(index)];
-    for (int i = 0; i < 8; ++i) {
-        Field& field = txtData[static_cast<size_t>(i)];
-        field.text.clear();
-        field.role = roles.inputs.count(i) ? ConversionRole::Input : i == roles.output ? ConversionRole::Output : ConversionRole::NotUsed;
-    }
-    stpEnabled = roles.standardCondition;
+    clearTexts();
+    stpEnabled_ = kRoles[static_cast<size_t>(index)].standardCondition;
+    showChoices();
     if (store_)
         store_->save("Settings", "FlowConversion", std::to_string(index));
 }
@@ -110,9 +151,10 @@ void FlowConversionsModel::optSTP_Click(int index)
     static const double temperatures[] = {519.67, 491.67, 518.67};
     static const double volumes[] = {379.4, 359.0, 378.7};
     stp = index;
-    StdPressure = 14.696;
-    StdTemperature = temperatures[index];
-    StdMolarVolume = volumes[index];
+    values.StdPressure = 14.696;
+    values.StdTemperature = temperatures[index];
+    values.StdMolarVolume = volumes[index];
+    showChoices();
     convert();
 }
 
@@ -122,8 +164,8 @@ void FlowConversionsModel::optUnits_Click(int index)
         return;
     ChangeNotice notice(*this);
     units = index;
-    for (Field& field : txtData)
-        field.text.clear();
+    clearTexts();
+    showChoices();
     if (store_)
         store_->save("Settings", "UnitSystem", std::to_string(index));
 }
@@ -131,17 +173,26 @@ void FlowConversionsModel::optUnits_Click(int index)
 Single* FlowConversionsModel::fieldOf(int index)
 {
     switch (index) {
-    case 2: return &FlowTemperature;
-    case 3: return &FlowPressure;
-    case 4: return &FlowSCFM;
-    case 5: return &FlowACFM;
-    case 6: return &FlowGPM;
-    case 7: return &FlowLBHR;
+    case FlowingTemperature: return &values.FlowTemperature;
+    case FlowingPressure: return &values.FlowPressure;
+    case StandardVolumeFlow: return &values.FlowSCFM;
+    case ActualVolumeFlow: return &values.FlowACFM;
+    case LiquidVolumeFlow: return &values.FlowGPM;
+    case MassFlow: return &values.FlowLBHR;
     default: return nullptr;
     }
 }
 
-void FlowConversionsModel::commitText(int index)
+void FlowConversionsModel::commitText(int index, const std::string& text)
+{
+    if (index < 0 || index >= kFields)
+        return;
+    ChangeNotice notice(*this);
+    txtData[static_cast<size_t>(index)].text = text;
+    store(index);
+}
+
+void FlowConversionsModel::store(int index)
 {
     Single* field = fieldOf(index);
     if (!field)
@@ -167,10 +218,9 @@ void FlowConversionsModel::txtData_LostFocus(int index)
         return;
     ChangeNotice notice(*this);
     try {
-        commitText(index);
+        store(index);
     } catch (const NumericFault&) {
-        for (Field& field : txtData)
-            field.text.clear();
+        clearTexts();
         return;
     }
     convert();
@@ -181,44 +231,45 @@ void FlowConversionsModel::convert()
     try {
         FaultScope scope("FlowConversions");
         // The specific gravity and the molecular weight are read from their texts as singles.
-        const auto sg = [this] { return requiredFieldSingle(txtData[0].text); };
-        const auto mw = [this] { return requiredFieldSingle(txtData[1].text); };
+        const auto sg = [this] { return requiredFieldSingle(txtData[SpecificGravity].text); };
+        const auto mw = [this] { return requiredFieldSingle(txtData[MolecularWeight].text); };
+        FlowConversionsData& v = values;
         Single* result = nullptr;
         double metricFactor = 1;
         switch (conversion) {
         case 0:
-            FlowLBHR = Div(FlowSCFM * 60 * mw(), StdMolarVolume);
-            result = &FlowLBHR;
+            v.FlowLBHR = Div(v.FlowSCFM * 60 * mw(), v.StdMolarVolume);
+            result = &v.FlowLBHR;
             metricFactor = kPoundsPerKilogram;
             break;
         case 1:
-            FlowSCFM = Div(FlowLBHR * StdMolarVolume, mw() * 60);
-            result = &FlowSCFM;
+            v.FlowSCFM = Div(v.FlowLBHR * v.StdMolarVolume, mw() * 60);
+            result = &v.FlowSCFM;
             metricFactor = kCubicMetresPerHour;
             break;
         case 2:
-            FlowLBHR = sg() * (FlowGPM * 500);
-            result = &FlowLBHR;
+            v.FlowLBHR = sg() * (v.FlowGPM * 500);
+            result = &v.FlowLBHR;
             metricFactor = kPoundsPerKilogram;
             break;
         case 3:
-            FlowGPM = Div(FlowLBHR, sg() * 500);
-            result = &FlowGPM;
+            v.FlowGPM = Div(v.FlowLBHR, sg() * 500);
+            result = &v.FlowGPM;
             metricFactor = kGallonsPerMinute;
             break;
         case 4: {
-            const Single a = Div(StdTemperature, FlowTemperature + 459.67);
-            const Single b = Div(FlowPressure + StdPressure, StdPressure);
-            FlowACFM = Div(FlowSCFM, a * b);
-            result = &FlowACFM;
+            const Single a = Div(v.StdTemperature, v.FlowTemperature + 459.67);
+            const Single b = Div(v.FlowPressure + v.StdPressure, v.StdPressure);
+            v.FlowACFM = Div(v.FlowSCFM, a * b);
+            result = &v.FlowACFM;
             metricFactor = kCubicMetresPerHour;
             break;
         }
         default: {
-            const Single a = Div(StdTemperature, FlowTemperature + 460);
-            const Single b = Div(FlowPressure + StdPressure, StdPressure);
-            FlowSCFM = a * FlowACFM * b;
-            result = &FlowSCFM;
+            const Single a = Div(v.StdTemperature, v.FlowTemperature + 460);
+            const Single b = Div(v.FlowPressure + v.StdPressure, v.StdPressure);
+            v.FlowSCFM = a * v.FlowACFM * b;
+            result = &v.FlowSCFM;
             metricFactor = kCubicMetresPerHour;
             break;
         }
@@ -226,8 +277,7 @@ void FlowConversionsModel::convert()
         const double shown = units == 0 ? static_cast<double>(*result) : *result / metricFactor;
         txtData[static_cast<size_t>(kRoles[static_cast<size_t>(conversion)].output)].text = formatMask(shown, "###,##0.0000");
     } catch (const NumericFault&) {
-        for (Field& field : txtData)
-            field.text.clear();
+        clearTexts();
     }
 }
 
@@ -250,19 +300,42 @@ Single FlowConversionsModel::GetFlowrateConversion(int kind, const std::function
         return 0.0;
     {
         ChangeNotice notice(*this);
-        applyEnabled = true;
+        cmdApply.enabled = true;
         applied = false;
         if (kind == 2) {
-            conversionEnabled = {true, true, false, false, true, true};
+            conversionEnabled_ = {true, true, false, false, true, true};
             optConversion_Click(0);
-            stpEnabled = true;
+            stpEnabled_ = true;
         } else {
-            conversionEnabled = {false, false, true, false, false, false};
+            conversionEnabled_ = {false, false, true, false, false, false};
             optConversion_Click(2);
         }
+        showChoices();
     }
     showModal();
-    return applied ? FlowLBHR : Single(0.0);
+    return applied ? values.FlowLBHR : Single(0.0);
+}
+
+void FlowConversionsModel::commit(const Control& field, const std::string& text)
+{
+    if (TextControl* typed = field.family == "txtData" ? elementOf(txtData, field) : nullptr; typed && !typed->locked) {
+        typed->text = text;
+        txtData_LostFocus(field.index);
+    }
+}
+
+void FlowConversionsModel::click(const Control& control)
+{
+    if (control.family == "optConversion")
+        optConversion_Click(control.index);
+    else if (control.family == "optSTP")
+        optSTP_Click(control.index);
+    else if (control.family == "optUnits")
+        optUnits_Click(control.index);
+    else if (control == flow_conversions::cmdApply)
+        cmdApply_Click();
+    else if (control == flow_conversions::cmdCancel)
+        cmdCancel_Click();
 }
 
 } // namespace kestrova

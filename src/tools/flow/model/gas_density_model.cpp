@@ -1,13 +1,14 @@
 #include "tools/flow/model/gas_density_model.h"
 
-#include "forms/store/global_units.h"
 #include "forms/model/user_interface.h"
-#include "numeric/field_text.h"
+#include "forms/store/global_units.h"
 #include "numeric/checked_math.h"
 #include "numeric/display_mask.h"
 #include "numeric/numeric_fault.h"
 
 namespace kestrova {
+
+using namespace gas_density;
 
 namespace {
 
@@ -19,134 +20,93 @@ const FieldKind kPressure{"Pressure", PressureToUnit, PressureFromUnit,
 const FieldKind kDensity{"Density", DensityToUnit, DensityFromUnit,
                          {"##,##0.0000", "##,##0.0000", "##,##0.0000", "##,##0.000"}};
 
+using D = GasDensityData;
+// The unit set-up of this form crosses its lists: the temperature list takes
+// the density global's index and the density list the temperature's; only
+// the index passes.
+const std::array<DialogField<D>, kFields> kFieldTable{{
+    {{&kTemperature, Quantity::Density, &D::temperature}, kDialogInput},
+    {{&kPressure, Quantity::Pressure, &D::pressure}, kDialogInput},
+    {{&kDensity, Quantity::Temperature, &D::density}, kDialogResult},
+    {{nullptr, Quantity::Length, &D::molecularWeight}, kDialogUnsigned},
+    {{nullptr, Quantity::Length, &D::compressibility}, kDialogUnsigned},
+}};
+
 } // namespace
 
-const FieldKind& GasDensityModel::kindOf(int index)
+GasDensityModel::GasDensityModel(UserInterface& ui, QObject* parent)
+    : UnitFieldDialogModel(ui, kFieldTable, Density, kTitle, "A gas density has not been computed.", parent)
 {
-    return index == 0 ? kTemperature : index == 1 ? kPressure : kDensity;
+    cmdApply_.enabled = false; // until a tool asks for a density
+    controls().add(unit_field_dialog::cmdApply, cmdApply_);
 }
-
-GasDensityModel::GasDensityModel(UserInterface& ui, QObject* parent) : FormModel(parent), ui_(ui) {}
 
 void GasDensityModel::Form_Load()
 {
     ChangeNotice notice(*this);
-    for (int i = 0; i < 3; ++i)
-        showField(i);
-    txtData[3] = txtData[4] = "0.00";
+    showFields();
+    txtData[MolecularWeight].text = txtData[Compressibility].text = "0.00";
 }
 
 void GasDensityModel::Form_Activate()
 {
     ChangeNotice notice(*this);
-    // The unit set-up of this form: density 0, pressure 1, temperature 2.
-    cboUnits[0] = globalUnits()[Quantity::Density];
-    cboUnits[1] = globalUnits()[Quantity::Pressure];
-    cboUnits[2] = globalUnits()[Quantity::Temperature];
-    for (int i = 0; i < 3; ++i)
-        showField(i);
+    takeGlobalUnits();
+    showFields();
     ui_.setStatusText("Enter system parameters");
-}
-
-void GasDensityModel::showField(int index)
-{
-    const Single values[] = {temperature, pressure, density};
-    txtData[static_cast<size_t>(index)] = unitFieldText(kindOf(index), values[index], cboUnits[static_cast<size_t>(index)]);
-}
-
-void GasDensityModel::setUnit(int index, UnitIndex unit)
-{
-    if (index < 0 || index > 2)
-        return;
-    ChangeNotice notice(*this);
-    cboUnits[static_cast<size_t>(index)] = unit;
-    showField(index);
-}
-
-void GasDensityModel::commitText(int index)
-{
-    Single* targets[] = {&temperature, &pressure, &density, &molecularWeight, &compressibility};
-    const std::string& text = txtData[static_cast<size_t>(index)];
-    *targets[index] = index < 3 ? unitFieldValue(kindOf(index), text, cboUnits[static_cast<size_t>(index)])
-                                : fieldSingleOr0(text);
-    if (index < 3)
-        showField(index);
-}
-
-void GasDensityModel::txtData_LostFocus(int index)
-{
-    if (index < 0 || index > 4)
-        return;
-    ChangeNotice notice(*this);
-    commitText(index);
-    ComputeDensity();
 }
 
 void GasDensityModel::ComputeDensity()
 {
     // A failing equation leaves a density of 0, and the field is shown anyway.
+    GasDensityData& r = record_;
     try {
         FaultScope scope("GasDensity");
-        density = checked::Div(pressure * molecularWeight, (compressibility * 10.73) * (temperature + 459.69));
+        r.density = checked::Div(r.pressure * r.molecularWeight, (r.compressibility * 10.73) * (r.temperature + 459.69));
     } catch (const NumericFault&) {
-        density = 0.0;
+        r.density = 0.0;
     }
-    showField(2);
+    showField(Density);
 }
 
-void GasDensityModel::cmdApply_Click()
+void GasDensityModel::clickOther(const Control& control)
 {
-    ChangeNotice notice(*this);
-    if (txtData[2].empty()) {
-        ui_.ask(kTitle, "A gas density has not been computed.", MessageIcon::Warning, MessageButtons::Ok,
-                MessageAnswer::Ok);
-        return;
-    }
-    applied = true;
-    closeRequested = true;
+    if (control == gas_density::cmdTable)
+        cmdTable_Click();
 }
 
 void GasDensityModel::cmdTable_Click()
 {
     ChangeNotice notice(*this);
-    const Single z = ui_.GetZValue(temperature, pressure);
+    const Single z = ui_.GetZValue(record_.temperature, record_.pressure);
     if (z != 0) {
-        txtData[4] = plainNumberText(z);
-        txtData_LostFocus(4);
+        txtData[Compressibility].text = plainNumberText(z);
+        txtData_LostFocus(Compressibility);
     }
 }
 
 void GasDensityModel::cmdReset_Click()
 {
     ChangeNotice notice(*this);
-    if (ui_.ask(kTitle, "Reset all input fields?", MessageIcon::Question, MessageButtons::OkCancel,
-                MessageAnswer::Ok) == MessageAnswer::Cancel)
+    if (!askReset(kTitle))
         return;
     Form_Activate();
-    temperature = pressure = density = molecularWeight = compressibility = 0.0;
-    for (std::string& text : txtData)
-        text = "0.00";
+    record_ = GasDensityData{};
+    for (TextControl& field : txtData)
+        field.text = "0.00";
 }
 
-void GasDensityModel::cmdClose_Click()
+Single GasDensityModel::GetGasDensity(Single temperature, Single pressure, const std::function<void()>& showModal)
 {
-    ChangeNotice notice(*this);
-    closeRequested = true;
-}
-
-Single GasDensityModel::GetGasDensity(Single t, Single p, const std::function<void()>& showModal)
-{
-    {
-        ChangeNotice notice(*this);
-        applyEnabled = true;
-        applied = false;
-        temperature = t;
-        pressure = p;
-        showField(0);
-        showField(1);
-    }
-    showModal();
-    return applied ? density : Single(0.0);
+    return runForResult(
+        [&] {
+            cmdApply_.enabled = true;
+            record_.temperature = temperature;
+            record_.pressure = pressure;
+            showField(Temperature);
+            showField(Pressure);
+        },
+        showModal);
 }
 
 } // namespace kestrova

@@ -2,20 +2,27 @@
 // The gas density tool (frmGasDensity) without its window: the density of a
 // real gas from temperature, pressure, molecular weight and Z.
 
-#include "forms/model/form_model.h"
-#include "units/unit_field.h"
+#include "forms/model/unit_field_dialog_model.h"
 
-#include <array>
 #include <functional>
-#include <string>
 
 namespace kestrova {
 
 class UserInterface;
 
-class GasDensityModel : public FormModel {
-    Q_OBJECT
+// The tool's values in internal units: °F, psia, lb/ft3.
+struct GasDensityData {
+    Single temperature, pressure, density, molecularWeight, compressibility;
+};
 
+namespace gas_density {
+// txtData(i): the unit fields 0 to 2 with cboUnits(i), then two plain numbers.
+enum Field : int { Temperature = 0, Pressure = 1, Density = 2, MolecularWeight = 3, Compressibility = 4 };
+inline constexpr int kFields = 5;
+inline const Control cmdTable{"cmdTable"}; // Z from the compressibility tool
+} // namespace gas_density
+
+class GasDensityModel : public UnitFieldDialogModel<GasDensityData, gas_density::kFields> {
 public:
     static constexpr const char* kTitle = "Gas Density";
 
@@ -23,29 +30,19 @@ public:
 
     void Form_Load();
     void Form_Activate();
-    void txtData_LostFocus(int index);
-    void commitText(int index); // the storing part of leaving a field
-    void setUnit(int index, UnitIndex unit);
-    void cmdApply_Click();
     void cmdTable_Click();
-    void cmdReset_Click();
-    void cmdClose_Click();
+    void cmdReset_Click() override;
     void ComputeDensity();
 
     Single GetGasDensity(Single temperature, Single pressure, const std::function<void()>& showModal);
 
-    // txtData(0) temperature, (1) pressure, (2) density, (3) MW, (4) Z.
-    std::array<std::string, 5> txtData;
-    std::array<UnitIndex, 3> cboUnits{};
-    Single temperature, pressure, density, molecularWeight, compressibility;
-    bool applyEnabled = false;
-    bool applied = false;
-
-    static const FieldKind& kindOf(int index);
+protected:
+    void compute() override { ComputeDensity(); }
+    void clickOther(const Control& control) override;
+    Single appliedValue() const override { return record_.density; }
 
 private:
-    void showField(int index);
-    UserInterface& ui_;
+    ButtonControl cmdApply_;
 };
 
 } // namespace kestrova

@@ -10,6 +10,8 @@
 
 namespace kestrova {
 
+using namespace minor_losses;
+
 const std::array<Fitting, 35>& fittings()
 {
     static const std::array<Fitting, 35> table{{
@@ -66,7 +68,27 @@ void addTo(Single& total, double addend)
 
 } // namespace
 
-MinorLossesModel::MinorLossesModel(UserInterface& ui, QObject* parent) : FormModel(parent), ui_(ui) {}
+MinorLossesModel::MinorLossesModel(UserInterface& ui, QObject* parent) : FormModel(parent), ui_(ui)
+{
+    // The quantities take digits alone; the other K a number; the rest are results.
+    for (int n = 0; n < kFittings; ++n) {
+        TextControl& quantity = txtQuantity[static_cast<size_t>(n)];
+        quantity.keys = KeyRule::Digits;
+        const Fitting& f = fittings()[static_cast<size_t>(n)];
+        quantity.toolTip = "K1 = " + plainNumberText(f.K1) + ", K2 = " + plainNumberText(f.K2);
+    }
+    const TextControl result = controlOf(FieldRole{false, KeyRule::Number, FieldShade::Tinted});
+    txtKValue = {result, result, controlOf(FieldRole{true, KeyRule::Number, FieldShade::Normal})};
+    txtTotalK1 = txtTotalK2 = txtTotalK = result;
+    txtTotalK1.toolTip = txtTotalK2.toolTip = "Total, 2-K Method";
+    txtTotalK.toolTip = "Total Resistance Coeficient, K";
+    ControlRegistry& all = controls();
+    all.family("txtQuantity", txtQuantity);
+    all.family("txtKValue", txtKValue);
+    all.add(minor_losses::txtTotalK1, txtTotalK1);
+    all.add(minor_losses::txtTotalK2, txtTotalK2);
+    all.add(minor_losses::txtTotalK, txtTotalK);
+}
 
 void MinorLossesModel::Form_Load()
 {
@@ -74,10 +96,10 @@ void MinorLossesModel::Form_Load()
     const int slot = CurrentLine();
     MinorLossStore& store = minorLossStore();
     for (size_t n = 0; n < txtQuantity.size(); ++n)
-        txtQuantity[n] = std::to_string(store.quantities[static_cast<size_t>(slot)][n]);
-    txtKValue[0] = plainNumberText(store.enlargementK);
-    txtKValue[1] = plainNumberText(store.contractionK);
-    txtKValue[2] = plainNumberText(store.otherK[static_cast<size_t>(slot)]);
+        txtQuantity[n].text = std::to_string(store.quantities[static_cast<size_t>(slot)][n]);
+    txtKValue[Enlargements].text = plainNumberText(store.enlargementK);
+    txtKValue[Contractions].text = plainNumberText(store.contractionK);
+    txtKValue[OtherLosses].text = plainNumberText(store.otherK[static_cast<size_t>(slot)]);
     if (!store.hasData[static_cast<size_t>(slot)]) {
         loaded_ = false; // the reset runs without its question
         cmdReset_Click();
@@ -92,33 +114,34 @@ void MinorLossesModel::Sum()
     // Each fitting's K1 and K2 are singles, and each addition is stored.
     K1Sum = K2Sum = 0.0;
     for (size_t n = 0; n < txtQuantity.size(); ++n) {
-        if (txtQuantity[n].empty())
+        std::string& quantity = txtQuantity[n].text;
+        if (quantity.empty())
             continue;
-        const std::int16_t count = fieldInteger16Or0(txtQuantity[n]);
+        const std::int16_t count = fieldInteger16Or0(quantity);
         addTo(K1Sum, count * Single(fittings()[n].K1));
         addTo(K2Sum, count * Single(fittings()[n].K2));
-        if (txtQuantity[n] == "0")
-            txtQuantity[n].clear();
+        if (quantity == "0")
+            quantity.clear();
     }
-    txtTotalK1 = formatMask(K1Sum, "#,###,##0");
-    txtTotalK2 = formatMask(K2Sum, "###,##0.00");
+    txtTotalK1.text = formatMask(K1Sum, "#,###,##0");
+    txtTotalK2.text = formatMask(K2Sum, "###,##0.00");
     K3Sum = 0.0;
-    for (std::string& value : txtKValue) {
-        if (value.empty())
+    for (TextControl& k : txtKValue) {
+        if (k.text.empty())
             continue;
-        addTo(K3Sum, fieldSingleOr0(value));
-        if (value == "0")
-            value.clear();
+        addTo(K3Sum, fieldSingleOr0(k.text));
+        if (k.text == "0")
+            k.text.clear();
     }
-    txtTotalK = formatMask(K3Sum, "###,##0.00");
+    txtTotalK.text = formatMask(K3Sum, "###,##0.00");
 }
 
 void MinorLossesModel::txtKValue_LostFocus(int index)
 {
-    if (index != 2 || txtKValue[2].empty())
+    if (index != OtherLosses || txtKValue[OtherLosses].text.empty())
         return;
     ChangeNotice notice(*this);
-    txtKValue[2] = formatMask(fieldSingleOr0(txtKValue[2]), "###,##0.000");
+    txtKValue[OtherLosses].text = formatMask(fieldSingleOr0(txtKValue[OtherLosses].text), "###,##0.000");
     Sum();
 }
 
@@ -127,8 +150,8 @@ void MinorLossesModel::apply(bool hide)
     const size_t slot = static_cast<size_t>(CurrentLine());
     MinorLossStore& store = minorLossStore();
     for (size_t n = 0; n < txtQuantity.size(); ++n)
-        store.quantities[slot][n] = fieldInteger16Or0(txtQuantity[n]);
-    store.otherK[slot] = fieldSingleOr0(txtKValue[2]);
+        store.quantities[slot][n] = fieldInteger16Or0(txtQuantity[n].text);
+    store.otherK[slot] = fieldSingleOr0(txtKValue[OtherLosses].text);
     store.hasData[slot] = true;
     if (hide)
         closeRequested = true;
@@ -146,13 +169,12 @@ void MinorLossesModel::cmdReset_Click()
     if (loaded_ && ui_.ask("Reset K Values", "Are you sure you want to reset all K values?", MessageIcon::Question,
                            MessageButtons::OkCancel, MessageAnswer::Cancel) == MessageAnswer::Cancel)
         return;
-    for (std::string& text : txtQuantity)
-        text.clear();
-    for (std::string& text : txtKValue)
-        text.clear();
-    txtTotalK1.clear();
-    txtTotalK2.clear();
-    txtTotalK.clear();
+    for (TextControl& quantity : txtQuantity)
+        quantity.text.clear();
+    for (TextControl& k : txtKValue)
+        k.text.clear();
+    for (TextControl* total : {&txtTotalK1, &txtTotalK2, &txtTotalK})
+        total->text.clear();
     const size_t slot = static_cast<size_t>(CurrentLine());
     MinorLossStore& store = minorLossStore();
     store.SegK1[slot] = store.SegK2[slot] = store.SegK3[slot] = 0.0;
@@ -169,7 +191,7 @@ void MinorLossesModel::cmdContractionTable_Click()
     if (k == 1.0) // the cancel value: a computed K of exactly 1 is dropped too
         return;
     minorLossStore().contractionK = k;
-    txtKValue[1] = plainNumberText(k);
+    txtKValue[Contractions].text = plainNumberText(k);
     Sum();
 }
 
@@ -180,7 +202,7 @@ void MinorLossesModel::cmdEnlargementTable_Click()
     if (k == 1.0)
         return;
     minorLossStore().enlargementK = k;
-    txtKValue[0] = plainNumberText(k);
+    txtKValue[Enlargements].text = plainNumberText(k);
     Sum();
 }
 
@@ -201,6 +223,51 @@ void MinorLossesModel::GetKValue(const std::function<void()>& showModal)
     minorLossStore().SegK1[slot] = K1Sum;
     minorLossStore().SegK2[slot] = K2Sum;
     minorLossStore().SegK3[slot] = K3Sum;
+}
+
+void MinorLossesModel::showTexts(const std::array<std::string, kFittings>& quantities,
+                                 const std::array<std::string, 3>& kValues)
+{
+    ChangeNotice notice(*this);
+    for (size_t n = 0; n < quantities.size(); ++n)
+        txtQuantity[n].text = quantities[n];
+    for (size_t i = 0; i < kValues.size(); ++i)
+        txtKValue[i].text = kValues[i];
+    Sum();
+}
+
+// The sums follow each keystroke in a quantity and in the other K.
+void MinorLossesModel::textEdited(const Control& field, const std::string& text)
+{
+    if (field.family == "txtQuantity" || field == minor_losses::txtKValue(OtherLosses)) {
+        FormModel::textEdited(field, text);
+        Sum();
+    }
+}
+
+void MinorLossesModel::commit(const Control& field, const std::string& text)
+{
+    if (field == minor_losses::txtKValue(OtherLosses)) {
+        txtKValue[OtherLosses].text = text;
+        txtKValue_LostFocus(OtherLosses);
+    } else if (TextControl* quantity = field.family == "txtQuantity" ? elementOf(txtQuantity, field) : nullptr) {
+        quantity->text = text;
+        Sum();
+    }
+}
+
+void MinorLossesModel::click(const Control& control)
+{
+    if (control == minor_losses::cmdEnlargementTable)
+        cmdEnlargementTable_Click();
+    else if (control == minor_losses::cmdContractionTable)
+        cmdContractionTable_Click();
+    else if (control == minor_losses::cmdApply)
+        cmdApply_Click();
+    else if (control == minor_losses::cmdReset)
+        cmdReset_Click();
+    else if (control == minor_losses::cmdClose)
+        cmdClose_Click();
 }
 
 } // namespace kestrova

@@ -22,11 +22,37 @@ struct Fitting {
 };
 const std::array<Fitting, 35>& fittings();
 
-class MinorLossesModel : public FormModel {
+namespace minor_losses {
+inline constexpr int kFittings = 35;
+enum KValue : int { Enlargements = 0, Contractions = 1, OtherLosses = 2 };
+inline Control txtQuantity(int n) { return {"txtQuantity", n}; }
+inline Control txtKValue(int i) { return {"txtKValue", i}; }
+inline const Control txtTotalK1{"txtTotalK1"};
+inline const Control txtTotalK2{"txtTotalK2"};
+inline const Control txtTotalK{"txtTotalK"};
+inline const Control cmdEnlargementTable{"cmdEnlargementTable"};
+inline const Control cmdContractionTable{"cmdContractionTable"};
+inline const Control cmdApply{"cmdApply"};
+inline const Control cmdReset{"cmdReset"};
+inline const Control cmdClose{"cmdClose"};
+} // namespace minor_losses
+
+// Everything the minor losses window shows, as the tool holds it.
+struct MinorLossesState {
+    std::array<TextControl, minor_losses::kFittings> txtQuantity;
+    std::array<TextControl, 3> txtKValue;
+    TextControl txtTotalK1, txtTotalK2, txtTotalK;
+    Single K1Sum, K2Sum, K3Sum;
+    bool cancelled = false;
+};
+
+class MinorLossesModel : public FormModel, private MinorLossesState {
     Q_OBJECT
 
 public:
     explicit MinorLossesModel(UserInterface& ui, QObject* parent = nullptr);
+
+    const MinorLossesState& view() const { return *this; }
 
     void Form_Load();
     void Sum();
@@ -40,11 +66,13 @@ public:
     // GetKValue: unless the user closed, the sums go to the slot's SegK1, SegK2, SegK3.
     void GetKValue(const std::function<void()>& showModal);
 
-    std::array<std::string, 35> txtQuantity;
-    std::array<std::string, 3> txtKValue;
-    std::string txtTotalK1, txtTotalK2, txtTotalK;
-    Single K1Sum, K2Sum, K3Sum;
-    bool cancelled = false;
+    // The headless companion's way in: the texts of the fields as they stand, then the sums.
+    void showTexts(const std::array<std::string, minor_losses::kFittings>& quantities,
+                   const std::array<std::string, 3>& kValues);
+
+    void commit(const Control& field, const std::string& text) override;
+    void textEdited(const Control& field, const std::string& text) override;
+    void click(const Control& control) override;
 
 private:
     void apply(bool hide);

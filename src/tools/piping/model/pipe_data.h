@@ -22,6 +22,7 @@ public:
 struct PipeTable {
     std::vector<std::string> headings;
     std::vector<std::vector<std::string>> rows;
+    bool operator==(const PipeTable&) const = default;
 };
 
 // The table names of a data base in their stored order.

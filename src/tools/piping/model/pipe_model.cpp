@@ -43,6 +43,37 @@ const char* PipeModel::kindCaption(int kind)
 PipeModel::PipeModel(UserInterface& ui, SettingsStore* store, QString dataFolder, QObject* parent)
     : FormModel(parent), ui_(ui), store_(store), folder_(std::move(dataFolder))
 {
+    using namespace pipe_sizes;
+    ControlRegistry& all = controls();
+    for (int c = 0; c < 2; ++c) {
+        PipeClassState& state = classes[static_cast<size_t>(c)];
+        for (int kind = 0; kind < 3; ++kind)
+            all.add(optMaterial(c, kind), state.optMaterial[static_cast<size_t>(kind)]);
+        for (int condition = 0; condition < 2; ++condition)
+            all.add(optCondition(c, condition), state.optCondition[static_cast<size_t>(condition)]);
+        state.txtRoughness.locked = true;
+        state.txtRoughness.tabStop = false;
+        state.txtRoughness.keys = KeyRule::Number;
+        state.txtRoughness.shade = FieldShade::Tinted;
+        all.add(txtRoughness(c), state.txtRoughness);
+        all.add(cboUnits(c), state.cboUnits);
+    }
+    all.add(pipe_sizes::tabPipeClass, tabPipeClass);
+    all.add(pipe_sizes::cmdSelect, cmdSelect);
+    cmdSelect.enabled = false; // a viewer by itself, until a tool asks for a size
+    showChoices();
+}
+
+// The tab, the options and the Select button show the choices.
+void PipeModel::showChoices()
+{
+    tabPipeClass.listIndex = pipeClass;
+    for (PipeClassState& state : classes) {
+        for (int kind = 0; kind < 3; ++kind)
+            state.optMaterial[static_cast<size_t>(kind)].checked = kind == state.kind;
+        for (int condition = 0; condition < 2; ++condition)
+            state.optCondition[static_cast<size_t>(condition)].checked = condition == state.condition;
+    }
 }
 
 QString PipeModel::dataBasePath(int c) const
@@ -86,6 +117,7 @@ void PipeModel::tabPipeClass_Click(int c)
         return;
     ChangeNotice notice(*this);
     pipeClass = c;
+    showChoices();
     if (loaded_ && store_)
         store_->save("Settings", "PipeClass", std::to_string(c));
 }
@@ -95,8 +127,9 @@ void PipeModel::optMaterial_Click(int c, int kind)
     if (c < 0 || c > 1 || kind < 0 || kind > 2)
         return;
     ChangeNotice notice(*this);
-    ClassState& state = classes[static_cast<size_t>(c)];
+    PipeClassState& state = classes[static_cast<size_t>(c)];
     state.kind = kind;
+    showChoices();
     state.materials.clear();
     try {
         for (const std::string& table : pipeTableNames(dataBasePath(c)))
@@ -115,7 +148,7 @@ void PipeModel::lstMaterial_Click(int c, int index)
     if (c < 0 || c > 1)
         return;
     ChangeNotice notice(*this);
-    ClassState& state = classes[static_cast<size_t>(c)];
+    PipeClassState& state = classes[static_cast<size_t>(c)];
     state.grid = {};
     state.currentRow = state.currentColumn = 0;
     if (index < 0 || index >= static_cast<int>(state.materials.size()))
@@ -132,7 +165,7 @@ void PipeModel::lstMaterial_Click(int c, int index)
 
 void PipeModel::computeRoughness(int c)
 {
-    ClassState& state = classes[static_cast<size_t>(c)];
+    PipeClassState& state = classes[static_cast<size_t>(c)];
     const QString file = QDir(folder_).filePath(QString(c == 0 ? "ASTM" : "DIN") + kFileSuffixes[state.kind]);
     try {
         const std::array<Single, 16> values = readRoughnessFile(file);
@@ -146,8 +179,8 @@ void PipeModel::computeRoughness(int c)
 
 void PipeModel::showRoughness(int c)
 {
-    ClassState& state = classes[static_cast<size_t>(c)];
-    state.roughnessText = roughnessText(state.roughness, state.unit);
+    PipeClassState& state = classes[static_cast<size_t>(c)];
+    state.txtRoughness.text = roughnessText(state.roughness, state.cboUnits.listIndex);
 }
 
 void PipeModel::optCondition_Click(int c, int condition)
@@ -156,6 +189,7 @@ void PipeModel::optCondition_Click(int c, int condition)
         return;
     ChangeNotice notice(*this);
     classes[static_cast<size_t>(c)].condition = condition;
+    showChoices();
     computeRoughness(c);
     if (loaded_ && store_)
         store_->save("Settings", kConditionKeys[c], std::to_string(condition));
@@ -166,7 +200,7 @@ void PipeModel::setUnit(int c, UnitIndex unit)
     if (c < 0 || c > 1)
         return;
     ChangeNotice notice(*this);
-    classes[static_cast<size_t>(c)].unit = unit;
+    classes[static_cast<size_t>(c)].cboUnits.listIndex = unit;
     showRoughness(c);
 }
 
@@ -178,10 +212,16 @@ void PipeModel::setCurrentCell(int c, int row, int column)
     classes[static_cast<size_t>(c)].currentColumn = column;
 }
 
+void PipeModel::grdPipeSize_DblClick()
+{
+    if (cmdSelect.enabled)
+        cmdSelect_Click();
+}
+
 void PipeModel::cmdSelect_Click()
 {
     ChangeNotice notice(*this);
-    const ClassState& state = classes[static_cast<size_t>(pipeClass)];
+    const PipeClassState& state = classes[static_cast<size_t>(pipeClass)];
     const bool cellExists = state.currentColumn >= 0 && state.currentColumn < static_cast<int>(state.grid.headings.size()) &&
                             state.currentRow >= 0 && state.currentRow < static_cast<int>(state.grid.rows.size());
     const std::string heading = cellExists ? trimmed(state.grid.headings[static_cast<size_t>(state.currentColumn)]) : "";
@@ -229,7 +269,7 @@ Single PipeModel::SelectPipeID(const std::string& kind, const std::function<void
     {
         ChangeNotice notice(*this);
         selector = kind;
-        selectEnabled = true;
+        cmdSelect.enabled = true;
         cancelled = false;
     }
     showModal();
@@ -237,6 +277,36 @@ Single PipeModel::SelectPipeID(const std::string& kind, const std::function<void
         return 0.0;
     pipeToolRoughness() = classes[static_cast<size_t>(pipeClass)].roughness;
     return selectedDiameter;
+}
+
+void PipeModel::click(const Control& control)
+{
+    for (int c = 0; c < 2; ++c) {
+        if (control.family == pipe_sizes::optMaterial(c, 0).family)
+            optMaterial_Click(c, control.index);
+        else if (control.family == pipe_sizes::optCondition(c, 0).family)
+            optCondition_Click(c, control.index);
+    }
+    if (control == pipe_sizes::cmdSelect)
+        cmdSelect_Click();
+    else if (control == pipe_sizes::cmdClose)
+        cmdClose_Click();
+}
+
+void PipeModel::choose(const Control& list, int entry)
+{
+    if (list.family == "cboUnits")
+        setUnit(list.index, static_cast<UnitIndex>(entry));
+    else if (list.family == "lstMaterial")
+        lstMaterial_Click(list.index, entry);
+    else if (list == pipe_sizes::tabPipeClass)
+        tabPipeClass_Click(entry);
+}
+
+void PipeModel::doubleClick(const Control& control)
+{
+    if (control.family == "grdPipeSize")
+        grdPipeSize_DblClick();
 }
 
 } // namespace kestrova

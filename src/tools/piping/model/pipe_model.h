@@ -19,7 +19,50 @@ namespace kestrova {
 class SettingsStore;
 class UserInterface;
 
-class PipeModel : public FormModel {
+namespace pipe_sizes {
+// Each control family has one array per class: ASTM (0) and DIN (1).
+inline Control optMaterial(int pipeClass, int kind) { return {pipeClass == 0 ? "optASTMMaterial" : "optDINMaterial", kind}; }
+inline Control optCondition(int pipeClass, int condition)
+{
+    return {pipeClass == 0 ? "optASTMCondition" : "optDINCondition", condition};
+}
+inline Control lstMaterial(int pipeClass) { return {"lstMaterial", pipeClass}; }
+inline Control txtRoughness(int pipeClass) { return {"txtRoughness", pipeClass}; }
+inline Control cboUnits(int pipeClass) { return {"cboUnits", pipeClass}; }
+inline Control grdPipeSize(int pipeClass) { return {"grdPipeSize", pipeClass}; }
+inline const Control tabPipeClass{"tabPipeClass"};
+inline const Control cmdSelect{"cmdSelect"};
+inline const Control cmdClose{"cmdClose"};
+} // namespace pipe_sizes
+
+// One tab of the tool: a class of pipes.
+struct PipeClassState {
+    int kind = 0; // metal, non-metal or lined, tubing
+    std::vector<std::string> materials;
+    int material = 0;
+    int condition = 0; // new, used
+    Single roughness;  // feet
+    PipeTable grid;
+    int currentRow = 0;    // in grid.rows
+    int currentColumn = 0; // in grid.headings
+    std::array<ButtonControl, 3> optMaterial;
+    std::array<ButtonControl, 2> optCondition;
+    TextControl txtRoughness;
+    ListControl cboUnits;
+};
+
+// Everything the pipe size window shows, as the tool holds it.
+struct PipeState {
+    std::array<PipeClassState, 2> classes;
+    int pipeClass = 0;
+    ListControl tabPipeClass;
+    ButtonControl cmdSelect;
+    std::string selector = "ID";
+    Single selectedDiameter;
+    bool cancelled = false;
+};
+
+class PipeModel : public FormModel, private PipeState {
     Q_OBJECT
 
 public:
@@ -27,6 +70,8 @@ public:
 
     // The data bases and roughness files are looked for in `dataFolder`.
     PipeModel(UserInterface& ui, SettingsStore* store, QString dataFolder, QObject* parent = nullptr);
+
+    const PipeState& view() const { return *this; }
 
     void Form_Load();
     void Form_Activate();
@@ -36,6 +81,7 @@ public:
     void optCondition_Click(int pipeClass, int condition);
     void setUnit(int pipeClass, UnitIndex unit);
     void setCurrentCell(int pipeClass, int row, int column);
+    void grdPipeSize_DblClick(); // selects the size, when a tool asks for one
     void cmdSelect_Click();
     void cmdClose_Click();
     // The selected cells of the current grid as text, tab between cells.
@@ -44,24 +90,9 @@ public:
     // selector "ID" or "OD"; 0 when cancelled.
     Single SelectPipeID(const std::string& selector, const std::function<void()>& showModal);
 
-    struct ClassState {
-        int kind = 0;
-        std::vector<std::string> materials;
-        int material = 0;
-        int condition = 0;
-        UnitIndex unit = 0;
-        Single roughness;
-        std::string roughnessText;
-        PipeTable grid;
-        int currentRow = 0;    // in grid.rows
-        int currentColumn = 0; // in grid.headings
-    };
-    std::array<ClassState, 2> classes;
-    int pipeClass = 0;
-    bool selectEnabled = false;
-    std::string selector = "ID";
-    Single selectedDiameter;
-    bool cancelled = false;
+    void click(const Control& control) override;
+    void choose(const Control& list, int entry) override;
+    void doubleClick(const Control& control) override;
 
     static const char* classCaption(int pipeClass);
     static const char* kindCaption(int kind);
@@ -70,6 +101,7 @@ private:
     QString dataBasePath(int pipeClass) const;
     void computeRoughness(int pipeClass);
     void showRoughness(int pipeClass);
+    void showChoices();
     void report(const DataFileError& error);
     UserInterface& ui_;
     SettingsStore* store_;

@@ -24,6 +24,23 @@ constexpr const char* kBetaMessage = "Invalid beta entered.\n \nBeta must be bet
 ReducerModel::ReducerModel(ReducerKind kind, UserInterface& ui, QObject* parent)
     : FormModel(parent), kind_(kind), ui_(ui)
 {
+    for (TextControl& angle : txtAngle) {
+        angle.keys = KeyRule::Number;
+        angle.toolTip = "Angle in Degrees";
+    }
+    for (TextControl& beta : txtBeta) {
+        beta.keys = KeyRule::Number;
+        beta.toolTip = "d / D";
+    }
+    const TextControl result = controlOf(FieldRole{false, KeyRule::Number, FieldShade::Tinted});
+    txtKValue.fill(result);
+    txtTotalK = result;
+    txtTotalK.text = "0";
+    ControlRegistry& all = controls();
+    all.family("txtAngle", txtAngle);
+    all.family("txtBeta", txtBeta);
+    all.family("txtKValue", txtKValue);
+    all.add(reducer::txtTotalK, txtTotalK);
 }
 
 std::string ReducerModel::title() const
@@ -53,8 +70,8 @@ void ReducerModel::Form_Load()
     const auto shown = [](Single v) { return v == 0 ? std::string() : plainNumberText(v); };
     for (int row = 0; row < kRows; ++row) {
         if (row < kGradualRows)
-            txtAngle[static_cast<size_t>(row)] = shown(values[static_cast<size_t>(row)]);
-        txtBeta[static_cast<size_t>(row)] = shown(values[static_cast<size_t>(5 + row)]);
+            txtAngle[static_cast<size_t>(row)].text = shown(values[static_cast<size_t>(row)]);
+        txtBeta[static_cast<size_t>(row)].text = shown(values[static_cast<size_t>(5 + row)]);
     }
     for (int row = 0; row < kRows; ++row)
         ComputeRow(row);
@@ -70,8 +87,8 @@ void ReducerModel::ComputeRow(int row)
     if (row < 0 || row >= kRows)
         return;
     ChangeNotice notice(*this);
-    std::string& k = txtKValue[static_cast<size_t>(row)];
-    const std::string& betaText = txtBeta[static_cast<size_t>(row)];
+    std::string& k = txtKValue[static_cast<size_t>(row)].text;
+    const std::string& betaText = txtBeta[static_cast<size_t>(row)].text;
     try {
         FaultScope scope(kind_ == ReducerKind::Contraction ? "Contractions" : "Enlargements");
         const Single beta = fieldSingleOr0(betaText);
@@ -80,10 +97,10 @@ void ReducerModel::ComputeRow(int row)
                 k.clear();
             else
                 k = formatMask(Pow(1 - Pow(beta, 2), 2), "###,##0.000");
-        } else if (txtAngle[static_cast<size_t>(row)].empty() || betaText.empty()) {
+        } else if (txtAngle[static_cast<size_t>(row)].text.empty() || betaText.empty()) {
             k.clear();
         } else {
-            const Single angle = fieldSingleOr0(txtAngle[static_cast<size_t>(row)]);
+            const Single angle = fieldSingleOr0(txtAngle[static_cast<size_t>(row)].text);
             const double H = angle * 0.5 * 3.1415926536 / 180;
             const double area = 1 - Pow(beta, 2);
             double value;
@@ -103,14 +120,25 @@ void ReducerModel::total()
 {
     // The total lives in its text: each addition reads it and the row's K as
     // singles and writes the sum back as plain text, rounded at every step.
-    txtTotalK = "0";
-    for (const std::string& k : txtKValue) {
+    std::string& sum = txtTotalK.text;
+    sum = "0";
+    for (const TextControl& k : txtKValue) {
         try {
-            txtTotalK = plainNumberText(Single(fieldSingleOr0(txtTotalK) + fieldSingleOr0(k)));
+            sum = plainNumberText(Single(fieldSingleOr0(sum) + fieldSingleOr0(k.text)));
         } catch (const NumericFault&) {
             // resume next: the total stays as it was
         }
     }
+}
+
+// A value out of range is told, the row's K emptied, and the focus goes
+// back to the field.
+bool ReducerModel::refused(const Control& control, int row, const char* message)
+{
+    ui_.ask(title(), message, MessageIcon::Stop, MessageButtons::Ok, MessageAnswer::Ok);
+    requestFocus(control);
+    txtKValue[static_cast<size_t>(row)].text.clear();
+    return false;
 }
 
 bool ReducerModel::txtAngle_LostFocus(int row)
@@ -118,15 +146,11 @@ bool ReducerModel::txtAngle_LostFocus(int row)
     if (row < 0 || row >= kGradualRows)
         return true;
     ChangeNotice notice(*this);
-    const std::string& text = txtAngle[static_cast<size_t>(row)];
-    if (!text.empty()) {
-        const Single angle = fieldSingleOr0(text);
-        if (!(angle > 0 && angle < 180)) {
-            ui_.ask(title(), kAngleMessage, MessageIcon::Stop, MessageButtons::Ok, MessageAnswer::Ok);
-            focusRequest = "txtAngle(" + std::to_string(row) + ")";
-            txtKValue[static_cast<size_t>(row)].clear();
-            return false;
-        }
+    TextControl& field = txtAngle[static_cast<size_t>(row)];
+    if (!field.text.empty()) {
+        const Single angle = fieldSingleOr0(field.text);
+        if (!(angle > 0 && angle < 180))
+            return refused(reducer::txtAngle(row), row, kAngleMessage);
     }
     ComputeRow(row);
     return true;
@@ -137,15 +161,11 @@ bool ReducerModel::txtBeta_LostFocus(int row)
     if (row < 0 || row >= kRows)
         return true;
     ChangeNotice notice(*this);
-    const std::string& text = txtBeta[static_cast<size_t>(row)];
-    if (!text.empty()) {
-        const Single beta = fieldSingleOr0(text);
-        if (!(beta > 0 && beta < 1)) {
-            ui_.ask(title(), kBetaMessage, MessageIcon::Stop, MessageButtons::Ok, MessageAnswer::Ok);
-            focusRequest = "txtBeta(" + std::to_string(row) + ")";
-            txtKValue[static_cast<size_t>(row)].clear();
-            return false;
-        }
+    TextControl& field = txtBeta[static_cast<size_t>(row)];
+    if (!field.text.empty()) {
+        const Single beta = fieldSingleOr0(field.text);
+        if (!(beta > 0 && beta < 1))
+            return refused(reducer::txtBeta(row), row, kBetaMessage);
     }
     ComputeRow(row);
     return true;
@@ -158,8 +178,8 @@ void ReducerModel::cmdApply_Click()
     auto& values = store().values[slot];
     for (int row = 0; row < kRows; ++row) {
         if (row < kGradualRows)
-            values[static_cast<size_t>(row)] = fieldSingleOr0(txtAngle[static_cast<size_t>(row)]);
-        values[static_cast<size_t>(5 + row)] = fieldSingleOr0(txtBeta[static_cast<size_t>(row)]);
+            values[static_cast<size_t>(row)] = fieldSingleOr0(txtAngle[static_cast<size_t>(row)].text);
+        values[static_cast<size_t>(5 + row)] = fieldSingleOr0(txtBeta[static_cast<size_t>(row)].text);
     }
     store().hasData[slot] = true;
     closeRequested = true;
@@ -173,11 +193,11 @@ void ReducerModel::cmdReset_Click()
                            MessageAnswer::Ok) == MessageAnswer::Cancel)
         return;
     for (auto* texts : {&txtBeta, &txtKValue})
-        for (std::string& text : *texts)
-            text.clear();
-    for (std::string& text : txtAngle)
-        text.clear();
-    txtTotalK = "0";
+        for (TextControl& field : *texts)
+            field.text.clear();
+    for (TextControl& field : txtAngle)
+        field.text.clear();
+    txtTotalK.text = "0";
     const size_t slot = static_cast<size_t>(CurrentLine());
     store().values[slot].fill(0.0);
     store().hasData[slot] = false;
@@ -196,7 +216,28 @@ Single ReducerModel::GetK(const std::function<void()>& showModal)
     showModal();
     if (cancelled)
         return 1.0;
-    return fieldSingleOr0(txtTotalK);
+    return fieldSingleOr0(txtTotalK.text);
+}
+
+void ReducerModel::commit(const Control& field, const std::string& text)
+{
+    if (TextControl* angle = field.family == "txtAngle" ? elementOf(txtAngle, field) : nullptr) {
+        angle->text = text;
+        txtAngle_LostFocus(field.index);
+    } else if (TextControl* beta = field.family == "txtBeta" ? elementOf(txtBeta, field) : nullptr) {
+        beta->text = text;
+        txtBeta_LostFocus(field.index);
+    }
+}
+
+void ReducerModel::click(const Control& control)
+{
+    if (control == reducer::cmdApply)
+        cmdApply_Click();
+    else if (control == reducer::cmdReset)
+        cmdReset_Click();
+    else if (control == reducer::cmdClose)
+        cmdClose_Click();
 }
 
 } // namespace kestrova

@@ -18,14 +18,36 @@ struct ReducerStore;
 
 enum class ReducerKind { Contraction, Enlargement };
 
-class ReducerModel : public FormModel {
+namespace reducer {
+inline constexpr int kRows = 10;       // rows 0 to 4 gradual, 5 to 9 sudden
+inline constexpr int kGradualRows = 5;
+inline Control txtAngle(int row) { return {"txtAngle", row}; }
+inline Control txtBeta(int row) { return {"txtBeta", row}; }
+inline Control txtKValue(int row) { return {"txtKValue", row}; }
+inline const Control txtTotalK{"txtTotalK"};
+inline const Control cmdApply{"cmdApply"};
+inline const Control cmdReset{"cmdReset"};
+inline const Control cmdClose{"cmdClose"};
+} // namespace reducer
+
+// Everything a reducer window shows, as the tool holds it.
+struct ReducerState {
+    std::array<TextControl, reducer::kGradualRows> txtAngle;
+    std::array<TextControl, reducer::kRows> txtBeta, txtKValue;
+    TextControl txtTotalK;
+    bool cancelled = false;
+};
+
+class ReducerModel : public FormModel, private ReducerState {
     Q_OBJECT
 
 public:
-    static constexpr int kRows = 10;     // rows 0 to 4 gradual, 5 to 9 sudden
-    static constexpr int kGradualRows = 5;
+    static constexpr int kRows = reducer::kRows;
+    static constexpr int kGradualRows = reducer::kGradualRows;
 
     ReducerModel(ReducerKind kind, UserInterface& ui, QObject* parent = nullptr);
+
+    const ReducerState& view() const { return *this; }
 
     void Form_Load();
     // The row's K from its texts, then the total.
@@ -44,15 +66,13 @@ public:
     std::string gradualLabel() const;
     std::string suddenLabel() const;
 
-    std::array<std::string, kGradualRows> txtAngle;
-    std::array<std::string, kRows> txtBeta, txtKValue;
-    std::string txtTotalK = "0";
-    bool cancelled = false;
-    std::string focusRequest; // the field the focus goes back to after a refusal
+    void commit(const Control& field, const std::string& text) override;
+    void click(const Control& control) override;
 
 private:
     ReducerStore& store() const;
     void total();
+    bool refused(const Control& control, int row, const char* message);
     ReducerKind kind_;
     UserInterface& ui_;
     bool loaded_ = false;

@@ -37,6 +37,25 @@ std::string roughnessText(Single feet, UnitIndex unit)
 RoughnessModel::RoughnessModel(UserInterface& ui, SettingsStore* store, QObject* parent)
     : FormModel(parent), ui_(ui), store_(store)
 {
+    txtData.keys = KeyRule::Number;
+    cmdSelect.enabled = false; // until a tool asks for a roughness
+    optPipeCondition[0].toolTip = "New Pipe";
+    optPipeCondition[1].toolTip = "Used Pipe (new roughness x 3)";
+    ControlRegistry& all = controls();
+    all.family("optPipeRoughness", optPipeRoughness);
+    all.family("optPipeCondition", optPipeCondition);
+    all.add(roughness::txtData, txtData);
+    all.add(roughness::cboUnits, cboUnits);
+    all.add(roughness::cmdSelect, cmdSelect);
+    showChoices();
+}
+
+void RoughnessModel::showChoices()
+{
+    for (int i = 0; i < 9; ++i)
+        optPipeRoughness[static_cast<size_t>(i)].checked = i == material;
+    for (int i = 0; i < 2; ++i)
+        optPipeCondition[static_cast<size_t>(i)].checked = i == condition;
 }
 
 void RoughnessModel::Form_Load()
@@ -45,6 +64,7 @@ void RoughnessModel::Form_Load()
     compute();
     material = store_ ? store_->getIndex("Settings", "PipeRoughness", 0, 9) : 0;
     condition = store_ ? store_->getIndex("Settings", "PipeCondition", 0, 2) : 0;
+    showChoices();
     compute();
     loaded_ = true;
 }
@@ -52,7 +72,7 @@ void RoughnessModel::Form_Load()
 void RoughnessModel::Form_Activate()
 {
     ChangeNotice notice(*this);
-    unit = globalUnits()[Quantity::Roughness];
+    cboUnits.listIndex = globalUnits()[Quantity::Roughness];
     showRoughness();
 }
 
@@ -65,7 +85,7 @@ void RoughnessModel::compute()
 
 void RoughnessModel::showRoughness()
 {
-    txtData = roughnessText(roughness, unit);
+    txtData.text = roughnessText(roughness, cboUnits.listIndex);
 }
 
 void RoughnessModel::optPipeRoughness_Click(int index)
@@ -74,6 +94,7 @@ void RoughnessModel::optPipeRoughness_Click(int index)
         return;
     ChangeNotice notice(*this);
     material = index;
+    showChoices();
     compute();
     if (loaded_ && store_)
         store_->save("Settings", "PipeRoughness", std::to_string(index));
@@ -85,6 +106,7 @@ void RoughnessModel::optPipeCondition_Click(int index)
         return;
     ChangeNotice notice(*this);
     condition = index;
+    showChoices();
     compute();
     if (loaded_ && store_)
         store_->save("Settings", "PipeCondition", std::to_string(index));
@@ -93,14 +115,14 @@ void RoughnessModel::optPipeCondition_Click(int index)
 void RoughnessModel::setUnit(UnitIndex newUnit)
 {
     ChangeNotice notice(*this);
-    unit = newUnit;
+    cboUnits.listIndex = newUnit;
     showRoughness();
 }
 
 void RoughnessModel::txtData_LostFocus()
 {
     ChangeNotice notice(*this);
-    roughness = unitFieldValue(field_kinds::roughness, txtData, unit);
+    roughness = unitFieldValue(field_kinds::roughness, txtData.text, cboUnits.listIndex);
     showRoughness();
 }
 
@@ -123,7 +145,7 @@ void RoughnessModel::cmdReset_Click()
         return;
     optPipeCondition_Click(0);
     optPipeRoughness_Click(0);
-    unit = globalUnits()[Quantity::Roughness];
+    cboUnits.listIndex = globalUnits()[Quantity::Roughness];
     showRoughness();
 }
 
@@ -138,11 +160,52 @@ Single RoughnessModel::SelectRoughness(const std::function<void()>& showModal)
 {
     {
         ChangeNotice notice(*this);
-        selectEnabled = true;
+        cmdSelect.enabled = true;
         cancelled = false;
     }
     showModal();
     return cancelled ? Single(0.0) : roughness;
+}
+
+void RoughnessModel::optPipeRoughness_DblClick(int index)
+{
+    if (index < 0 || index > 8 || !cmdSelect.enabled)
+        return;
+    cmdSelect_Click();
+}
+
+void RoughnessModel::commit(const Control& field, const std::string& text)
+{
+    if (field != roughness::txtData)
+        return;
+    txtData.text = text;
+    txtData_LostFocus();
+}
+
+void RoughnessModel::click(const Control& control)
+{
+    if (control.family == "optPipeRoughness")
+        optPipeRoughness_Click(control.index);
+    else if (control.family == "optPipeCondition")
+        optPipeCondition_Click(control.index);
+    else if (control == roughness::cmdSelect)
+        cmdSelect_Click();
+    else if (control == roughness::cmdReset)
+        cmdReset_Click();
+    else if (control == roughness::cmdExit)
+        cmdExit_Click();
+}
+
+void RoughnessModel::choose(const Control& list, int entry)
+{
+    if (list == roughness::cboUnits)
+        setUnit(static_cast<UnitIndex>(entry));
+}
+
+void RoughnessModel::doubleClick(const Control& control)
+{
+    if (control.family == "optPipeRoughness")
+        optPipeRoughness_DblClick(control.index);
 }
 
 } // namespace kestrova

@@ -22,7 +22,30 @@ struct RoughnessMaterial {
 };
 const std::array<RoughnessMaterial, 9>& roughnessMaterials();
 
-class RoughnessModel : public FormModel {
+namespace roughness {
+inline Control optPipeRoughness(int i) { return {"optPipeRoughness", i}; }
+inline Control optPipeCondition(int i) { return {"optPipeCondition", i}; }
+inline const Control txtData{"txtData"};
+inline const Control cboUnits{"cboUnits"};
+inline const Control cmdSelect{"cmdSelect"};
+inline const Control cmdReset{"cmdReset"};
+inline const Control cmdExit{"cmdExit"};
+} // namespace roughness
+
+// Everything the roughness window shows, as the tool holds it.
+struct RoughnessState {
+    int material = 0;
+    int condition = 0; // new, used
+    Single roughness;  // feet
+    std::array<ButtonControl, 9> optPipeRoughness;
+    std::array<ButtonControl, 2> optPipeCondition;
+    TextControl txtData;
+    ListControl cboUnits;
+    ButtonControl cmdSelect;
+    bool cancelled = false;
+};
+
+class RoughnessModel : public FormModel, private RoughnessState {
     Q_OBJECT
 
 public:
@@ -30,9 +53,12 @@ public:
 
     RoughnessModel(UserInterface& ui, SettingsStore* store, QObject* parent = nullptr);
 
+    const RoughnessState& view() const { return *this; }
+
     void Form_Load();
     void Form_Activate();
     void optPipeRoughness_Click(int index);
+    void optPipeRoughness_DblClick(int index); // selects, when a tool asks for a roughness
     void optPipeCondition_Click(int index);
     void setUnit(UnitIndex unit);
     void txtData_LostFocus();
@@ -42,17 +68,15 @@ public:
 
     Single SelectRoughness(const std::function<void()>& showModal);
 
-    int material = 0;
-    int condition = 0;
-    UnitIndex unit = 0;
-    std::string txtData;
-    Single roughness; // feet
-    bool selectEnabled = false;
-    bool cancelled = false;
+    void commit(const Control& field, const std::string& text) override;
+    void click(const Control& control) override;
+    void choose(const Control& list, int entry) override;
+    void doubleClick(const Control& control) override;
 
 private:
     void compute();
     void showRoughness();
+    void showChoices();
     UserInterface& ui_;
     SettingsStore* store_;
     bool loaded_ = false;

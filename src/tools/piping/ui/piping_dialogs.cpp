@@ -30,97 +30,68 @@ namespace kestrova {
 frmPipe::frmPipe(PipeModel& model, UserInterface& ui, QWidget* parent)
     : ToolDialog(model, ui, "frmPipe", PipeModel::kTitle, parent), model_(model)
 {
-    tabs_ = new QTabWidget(this);
-    tabs_->setObjectName("tabPipeClass");
-    status(tabs_, "Pipe Standards");
+    using namespace pipe_sizes;
+    QTabWidget* tabs = view().tabs(tabPipeClass);
+    view().status(tabs, "Pipe Standards");
     for (int c = 0; c < 2; ++c)
-        tabs_->addTab(buildClass(c), PipeModel::classCaption(c));
-    connect(tabs_, &QTabWidget::currentChanged, this, guarded(windowTitle().toStdString(), ui_, [this](int c) { model_.tabPipeClass_Click(c); }));
-    select_ = button("cmdSelect", "Use the Selected Size and Roughness", [this] { model_.cmdSelect_Click(); });
-    auto* copy = button("cmdCopy", "C&opy to Clipboard", [this] {
-        QTableWidget* grid = grid_[static_cast<size_t>(model_.pipeClass)];
-        const auto ranges = grid->selectedRanges();
-        if (ranges.isEmpty())
-            return;
-        const auto& r = ranges.front();
-        QApplication::clipboard()->clear();
-        QApplication::clipboard()->setText(QString::fromStdString(
-            model_.copyText(r.topRow(), r.leftColumn(), r.bottomRow(), r.rightColumn())));
-    });
-    auto* close = button("cmdClose", "&Close", [this] { model_.cmdClose_Click(); });
+        tabs->addTab(buildClass(c), PipeModel::classCaption(c));
+    auto* copy = new QPushButton("C&opy to Clipboard", this);
+    copy->setObjectName("cmdCopy");
+    copy->setAutoDefault(false);
+    connect(copy, &QPushButton::clicked, this, [this] { view().guard([this] { copySelection(); }); });
     onCancel = [this] { model_.cmdClose_Click(); };
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(copy);
     buttons->addStretch();
-    buttons->addWidget(select_);
-    buttons->addWidget(close);
+    buttons->addWidget(view().button(cmdSelect, "Use the Selected Size and Roughness"));
+    buttons->addWidget(view().button(cmdClose, "&Close"));
     auto* layout = new QVBoxLayout(this);
-    layout->addWidget(tabs_);
+    layout->addWidget(tabs);
     layout->addLayout(buttons);
     resize(900, 600);
 }
 
+// The selected cells of the grid in front, as text, onto the clipboard.
+void frmPipe::copySelection()
+{
+    const auto ranges = grid_[static_cast<size_t>(model_.view().pipeClass)]->selectedRanges();
+    if (ranges.isEmpty())
+        return;
+    const auto& r = ranges.front();
+    QApplication::clipboard()->clear();
+    QApplication::clipboard()->setText(
+        QString::fromStdString(model_.copyText(r.topRow(), r.leftColumn(), r.bottomRow(), r.rightColumn())));
+}
+
 QWidget* frmPipe::buildClass(int c)
 {
+    using namespace pipe_sizes;
     auto* page = new QWidget;
     auto* kinds = new QGroupBox("Material", page);
-    status(kinds, "Piping Material Listing");
+    view().status(kinds, "Piping Material Listing");
     auto* k = new QVBoxLayout(kinds);
-    const QString family = c == 0 ? "optASTMMaterial" : "optDINMaterial";
-    for (int i = 0; i < 3; ++i) {
-        auto* option = new QRadioButton(PipeModel::kindCaption(i), kinds);
-        option->setObjectName(QString("%1(%2)").arg(family).arg(i));
-        connect(option, &QRadioButton::clicked, this, guarded(windowTitle().toStdString(), ui_, [this, c, i] { model_.optMaterial_Click(c, i); }));
-        optMaterial_[static_cast<size_t>(c)][static_cast<size_t>(i)] = option;
-        k->addWidget(option);
-    }
+    for (int i = 0; i < 3; ++i)
+        k->addWidget(view().option(optMaterial(c, i), PipeModel::kindCaption(i)));
     auto* list = new QListWidget(kinds);
-    list->setObjectName(QString("lstMaterial(%1)").arg(c));
-    status(list, "Piping Material Listing");
-    connect(list, &QListWidget::currentRowChanged, this, guarded(windowTitle().toStdString(), ui_, [this, c](int row) {
-        if (row >= 0 && row != model_.classes[static_cast<size_t>(c)].material)
-            model_.lstMaterial_Click(c, row);
-    }));
+    list->setObjectName(QString::fromStdString(lstMaterial(c).name()));
+    view().status(list, "Piping Material Listing");
+    connect(list, &QListWidget::currentRowChanged, this, [this, c](int row) {
+        if (!drawing_ && row >= 0)
+            view().guard([&] { model_.choose(lstMaterial(c), row); });
+    });
     lstMaterial_[static_cast<size_t>(c)] = list;
     k->addWidget(list);
 
     auto* condition = new QGroupBox("Condition", page);
-    status(condition, "Condition/Age of the Pipe");
+    view().status(condition, "Condition/Age of the Pipe");
     auto* cl = new QHBoxLayout(condition);
-    const QString conditionFamily = c == 0 ? "optASTMCondition" : "optDINCondition";
     const char* captions[] = {"&New", "&Used (x 3)"};
-    for (int i = 0; i < 2; ++i) {
-        auto* option = new QRadioButton(captions[i], condition);
-        option->setObjectName(QString("%1(%2)").arg(conditionFamily).arg(i));
-        connect(option, &QRadioButton::clicked, this, guarded(windowTitle().toStdString(), ui_, [this, c, i] { model_.optCondition_Click(c, i); }));
-        optCondition_[static_cast<size_t>(c)][static_cast<size_t>(i)] = option;
-        cl->addWidget(option);
-    }
+    for (int i = 0; i < 2; ++i)
+        cl->addWidget(view().option(optCondition(c, i), captions[i]));
     auto* roughness = new QHBoxLayout;
-    txtRoughness_[static_cast<size_t>(c)] = output(QString("txtRoughness(%1)").arg(c));
-    cboUnits_[static_cast<size_t>(c)] = unitList(QString("cboUnits(%1)").arg(c), "Roughness",
-                                                 [this, c](int unit) { model_.setUnit(c, static_cast<UnitIndex>(unit)); });
     roughness->addWidget(new QLabel("Absolute Roughness:", page));
-    roughness->addWidget(txtRoughness_[static_cast<size_t>(c)]);
-    roughness->addWidget(cboUnits_[static_cast<size_t>(c)]);
-
-    auto* grid = new QTableWidget(page);
-    grid->setObjectName(QString("grdPipeSize(%1)").arg(c));
-    grid->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    grid->verticalHeader()->setVisible(false);
-    grid->verticalHeader()->setDefaultSectionSize(grid->fontMetrics().height() + 8);
-    grid->horizontalHeader()->setStretchLastSection(true);
-    grid->horizontalHeader()->setDefaultAlignment(Qt::AlignCenter);
-    grid->setStyleSheet("QTableWidget::item:focus { background-color: rgb(255, 255, 0); color: rgb(0, 0, 255); }");
-    status(grid, "Pipe Data");
-    connect(grid, &QTableWidget::currentCellChanged, this, guarded(windowTitle().toStdString(), ui_, [this, c](int row, int column) {
-        model_.setCurrentCell(c, row, column);
-    }));
-    connect(grid, &QTableWidget::cellDoubleClicked, this, guarded(windowTitle().toStdString(), ui_, [this] {
-        if (model_.selectEnabled)
-            model_.cmdSelect_Click();
-    }));
-    grid_[static_cast<size_t>(c)] = grid;
+    roughness->addWidget(view().field(txtRoughness(c)));
+    roughness->addWidget(view().unitList(cboUnits(c), "Roughness"));
 
     auto* left = new QVBoxLayout;
     left->addWidget(kinds, 1);
@@ -128,15 +99,36 @@ QWidget* frmPipe::buildClass(int c)
     left->addLayout(roughness);
     auto* layout = new QHBoxLayout(page);
     layout->addLayout(left);
-    layout->addWidget(grid, 3);
+    layout->addWidget(buildGrid(c), 3);
     return page;
+}
+
+QTableWidget* frmPipe::buildGrid(int c)
+{
+    auto* grid = new QTableWidget;
+    grid->setObjectName(QString::fromStdString(pipe_sizes::grdPipeSize(c).name()));
+    grid->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    grid->verticalHeader()->setVisible(false);
+    grid->verticalHeader()->setDefaultSectionSize(grid->fontMetrics().height() + 8);
+    grid->horizontalHeader()->setStretchLastSection(true);
+    grid->horizontalHeader()->setDefaultAlignment(Qt::AlignCenter);
+    grid->setStyleSheet("QTableWidget::item:focus { background-color: rgb(255, 255, 0); color: rgb(0, 0, 255); }");
+    view().status(grid, "Pipe Data");
+    connect(grid, &QTableWidget::currentCellChanged, this, [this, c](int row, int column) {
+        if (!drawing_)
+            view().guard([&] { model_.setCurrentCell(c, row, column); });
+    });
+    connect(grid, &QTableWidget::cellDoubleClicked, this,
+            [this, c] { view().guard([&] { model_.doubleClick(pipe_sizes::grdPipeSize(c)); }); });
+    grid_[static_cast<size_t>(c)] = grid;
+    return grid;
 }
 
 // The grid of a material: every column, centred headings, equal neighbours
 // merged, odd rows tinted.
 void frmPipe::fillGrid(int c)
 {
-    const PipeTable& table = model_.classes[static_cast<size_t>(c)].grid;
+    const PipeTable& table = model_.view().classes[static_cast<size_t>(c)].grid;
     QTableWidget* grid = grid_[static_cast<size_t>(c)];
     grid->clearSpans();
     grid->clear();
@@ -151,7 +143,7 @@ void frmPipe::fillGrid(int c)
             auto* item = new QTableWidgetItem(QString::fromStdString(table.rows[static_cast<size_t>(r)][static_cast<size_t>(col)]));
             item->setTextAlignment(Qt::AlignCenter);
             if ((r + 1) % 2 == 1)
-                item->setBackground(QColor(0xC0, 0xC0, 0xFF));
+                item->setBackground(tintColour());
             grid->setItem(r, col, item);
         }
     for (int col = 0; col < static_cast<int>(table.headings.size()); ++col) {
@@ -170,87 +162,64 @@ void frmPipe::fillGrid(int c)
     grid->resizeColumnsToContents();
 }
 
-void frmPipe::render()
+// The material lists and the grids: each drawn again only when what it
+// shows has changed.
+void frmPipe::renderDrawing()
 {
-    tabs_->setCurrentIndex(model_.pipeClass);
+    drawing_ = true;
     for (int c = 0; c < 2; ++c) {
-        const PipeModel::ClassState& s = model_.classes[static_cast<size_t>(c)];
-        optMaterial_[static_cast<size_t>(c)][static_cast<size_t>(s.kind)]->setChecked(true);
-        optCondition_[static_cast<size_t>(c)][static_cast<size_t>(s.condition)]->setChecked(true);
+        const PipeClassState& s = model_.view().classes[static_cast<size_t>(c)];
         QListWidget* list = lstMaterial_[static_cast<size_t>(c)];
         if (shownMaterials_[static_cast<size_t>(c)] != s.materials) {
-            const QSignalBlocker block(list);
             list->clear();
             for (const std::string& m : s.materials)
                 list->addItem(QString::fromStdString(m));
             shownMaterials_[static_cast<size_t>(c)] = s.materials;
         }
-        {
-            const QSignalBlocker block(list);
-            list->setCurrentRow(s.material);
-        }
-        if (shownGrid_[static_cast<size_t>(c)] != &s.grid || grid_[static_cast<size_t>(c)]->columnCount() != static_cast<int>(s.grid.headings.size()) ||
-            grid_[static_cast<size_t>(c)]->rowCount() != static_cast<int>(s.grid.rows.size()) ||
-            (s.grid.rows.size() && grid_[static_cast<size_t>(c)]->item(0, 0)->text().toStdString() != s.grid.rows[0][0])) {
+        list->setCurrentRow(s.material);
+        if (shownGrid_[static_cast<size_t>(c)] != s.grid) {
             fillGrid(c);
-            shownGrid_[static_cast<size_t>(c)] = &s.grid;
+            shownGrid_[static_cast<size_t>(c)] = s.grid;
         }
-        setText(txtRoughness_[static_cast<size_t>(c)], s.roughnessText);
-        cboUnits_[static_cast<size_t>(c)]->setCurrentIndex(s.unit);
     }
-    select_->setEnabled(model_.selectEnabled);
-    select_->setDefault(model_.selectEnabled);
+    drawing_ = false;
+    const bool selecting = model_.view().cmdSelect.enabled;
+    if (auto* select = findChild<QPushButton*>("cmdSelect"))
+        select->setDefault(selecting);
 }
 
 // --- Roughness ------------------------------------------------------------------
 
 frmRoughness::frmRoughness(RoughnessModel& model, UserInterface& ui, QWidget* parent)
-    : ToolDialog(model, ui, "frmRoughness", RoughnessModel::kTitle, parent), model_(model)
+    : ToolDialog(model, ui, "frmRoughness", RoughnessModel::kTitle, parent)
 {
-    status(this, "Absolute Material Roughness");
+    using namespace roughness;
+    view().status(this, "Absolute Material Roughness");
     auto* materials = new QGroupBox("Material Roughness", this);
-    status(materials, "Absolute Material Roughness");
+    view().status(materials, "Absolute Material Roughness");
     auto* m = new QGridLayout(materials);
     m->addWidget(new QLabel("<b>Absolute Roughness, ft (mm)</b>", materials), 0, 1);
     for (int i = 0; i < 9; ++i) {
         const RoughnessMaterial& entry = roughnessMaterials()[static_cast<size_t>(i)];
-        auto* option = new QRadioButton(entry.caption, materials);
-        option->setObjectName(QString("optPipeRoughness(%1)").arg(i));
-        connect(option, &QRadioButton::clicked, this, guarded(windowTitle().toStdString(), ui_, [this, i] { model_.optPipeRoughness_Click(i); }));
-        option->installEventFilter(this);
-        optPipeRoughness_[static_cast<size_t>(i)] = option;
-        m->addWidget(option, i + 1, 0);
+        m->addWidget(view().option(optPipeRoughness(i), entry.caption), i + 1, 0);
         m->addWidget(new QLabel(entry.label, materials), i + 1, 1);
     }
     auto* condition = new QGroupBox("Condition", this);
-    status(condition, "Condition/Age of Pipe");
+    view().status(condition, "Condition/Age of Pipe");
     auto* c = new QHBoxLayout(condition);
-    const char* captions[] = {"&New", "Used (x3)"};
-    const char* tips[] = {"New Pipe", "Used Pipe (new roughness x 3)"};
-    for (int i = 0; i < 2; ++i) {
-        auto* option = new QRadioButton(captions[i], condition);
-        option->setObjectName(QString("optPipeCondition(%1)").arg(i));
-        option->setToolTip(tips[i]);
-        connect(option, &QRadioButton::clicked, this, guarded(windowTitle().toStdString(), ui_, [this, i] { model_.optPipeCondition_Click(i); }));
-        optPipeCondition_[static_cast<size_t>(i)] = option;
-        c->addWidget(option);
-    }
-    txtData_ = field("txtData", [this](const QString& text) {
-        model_.txtData = text.toStdString();
-        model_.txtData_LostFocus();
-    }, true, false);
-    cboUnits_ = unitList("cboUnits", "Roughness", [this](int unit) { model_.setUnit(static_cast<UnitIndex>(unit)); });
+    c->addWidget(view().option(optPipeCondition(0), "&New"));
+    c->addWidget(view().option(optPipeCondition(1), "Used (x3)"));
     auto* value = new QHBoxLayout;
     value->addWidget(new QLabel("Absolute Roughness:", this));
-    value->addWidget(txtData_);
-    value->addWidget(cboUnits_);
-    select_ = button("cmdSelect", "Apply Roughness", [this] { model_.cmdSelect_Click(); });
+    value->addWidget(view().field(txtData));
+    value->addWidget(view().unitList(cboUnits, "Roughness"));
+    select_ = view().button(cmdSelect, "Apply Roughness");
     auto* buttons = new QHBoxLayout;
-    buttons->addWidget(button("cmdReset", "Reset Input Fields", [this] { model_.cmdReset_Click(); }));
+    buttons->addWidget(view().button(cmdReset, "Reset Input Fields"));
     buttons->addStretch();
     buttons->addWidget(select_);
-    buttons->addWidget(button("cmdExit", "&Close", [this] { model_.cmdExit_Click(); }));
-    onCancel = [this] { model_.cmdExit_Click(); };
+    buttons->addWidget(view().button(cmdExit, "&Close"));
+    onCancel = [&model] { model.cmdExit_Click(); };
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(materials);
     layout->addWidget(condition);
@@ -258,14 +227,9 @@ frmRoughness::frmRoughness(RoughnessModel& model, UserInterface& ui, QWidget* pa
     layout->addLayout(buttons);
 }
 
-void frmRoughness::render()
+void frmRoughness::renderDrawing()
 {
-    optPipeRoughness_[static_cast<size_t>(model_.material)]->setChecked(true);
-    optPipeCondition_[static_cast<size_t>(model_.condition)]->setChecked(true);
-    setText(txtData_, model_.txtData);
-    cboUnits_->setCurrentIndex(model_.unit);
-    select_->setEnabled(model_.selectEnabled);
-    select_->setDefault(model_.selectEnabled);
+    select_->setDefault(select_->isEnabled());
 }
 
 // --- Fitting sketches -------------------------------------------------------------
@@ -333,11 +297,38 @@ void FittingSketch::paintEvent(QPaintEvent*)
 // --- Minor losses -------------------------------------------------------------------
 
 frmMinorLosses::frmMinorLosses(MinorLossesModel& model, UserInterface& ui, QWidget* parent)
-    : ToolDialog(model, ui, "frmMinorLosses", "Minor Pipe Losses", parent), model_(model)
+    : ToolDialog(model, ui, "frmMinorLosses", "Minor Pipe Losses", parent)
+{
+    using namespace minor_losses;
+    view().setEnterAsTab(true);
+    view().setArrowsWalk(true);
+    QTabWidget* tabs = fittingTabs(); // before the sketch, which watches the quantities
+    auto* right = new QVBoxLayout;
+    right->addWidget(reducerFrame());
+    right->addWidget(totalsFrame());
+    right->addWidget(new FittingSketch(this));
+    right->addStretch();
+    auto* top = new QHBoxLayout;
+    top->addWidget(tabs, 2);
+    top->addLayout(right, 1);
+    QPushButton* apply = view().button(cmdApply, "Apply Results");
+    apply->setDefault(true);
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(view().button(cmdReset, "Reset Input Fields"));
+    buttons->addStretch();
+    buttons->addWidget(apply);
+    buttons->addWidget(view().button(cmdClose, "&Close"));
+    onCancel = [&model] { model.cmdClose_Click(); };
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(top);
+    layout->addLayout(buttons);
+}
+
+// The fittings on three tabs, each group of like fittings in a frame of its own.
+QTabWidget* frmMinorLosses::fittingTabs()
 {
     auto* tabs = new QTabWidget(this);
     std::map<QString, QGridLayout*> pages;
-    std::map<QString, QGroupBox*> groups;
     for (const char* tab : {"Piping", "Elbows", "Valves"}) {
         auto* page = new QWidget;
         pages[tab] = new QGridLayout(page);
@@ -347,8 +338,8 @@ frmMinorLosses::frmMinorLosses(MinorLossesModel& model, UserInterface& ui, QWidg
                                                  {"Check Valves", "Define Check Valve Losses"},
                                                  {"Entrance / Exit", "Entrance and Exit Losses"},
                                                  {"Tees", "Piping Tee Losses"}};
-    std::map<QString, int> rows;
-    for (int n = 0; n < 35; ++n) {
+    std::map<QString, QGroupBox*> groups;
+    for (int n = 0; n < minor_losses::kFittings; ++n) {
         const Fitting& f = fittings()[static_cast<size_t>(n)];
         const QString groupName = QString::fromUtf8(f.group);
         QGroupBox*& group = groups[groupName];
@@ -356,178 +347,109 @@ frmMinorLosses::frmMinorLosses(MinorLossesModel& model, UserInterface& ui, QWidg
             group = new QGroupBox(groupName);
             group->setLayout(new QGridLayout);
             if (groupStatus.count(groupName))
-                status(group, groupStatus.at(groupName));
+                view().status(group, groupStatus.at(groupName));
             QGridLayout* page = pages[f.tab];
             page->addWidget(group, page->rowCount(), 0);
         }
         auto* layout = static_cast<QGridLayout*>(group->layout());
-        QLineEdit* edit = field(QString("txtQuantity(%1)").arg(n), [this, n](const QString& text) {
-            model_.txtQuantity[static_cast<size_t>(n)] = text.toStdString();
-            model_.Sum();
-        }, true, false);
-        edit->setMaximumWidth(70);
-        edit->setToolTip(QString("K1 = %1, K2 = %2").arg(f.K1).arg(f.K2));
-        edit->setProperty("fittingGroup", groupName);
-        connect(edit, &QLineEdit::textEdited, this, guarded(windowTitle().toStdString(), ui_, [this, n](const QString& text) {
-            model_.txtQuantity[static_cast<size_t>(n)] = text.toStdString();
-            model_.Sum();
-        }));
-        txtQuantity_[static_cast<size_t>(n)] = edit;
-        const int row = rows[groupName]++;
+        QLineEdit* quantity = view().field(minor_losses::txtQuantity(n));
+        quantity->setMinimumWidth(60);
+        quantity->setMaximumWidth(70);
+        quantity->setProperty("fittingGroup", groupName);
+        const int row = layout->rowCount();
         layout->addWidget(new QLabel(QString::fromUtf8(f.label)), row, 0);
-        layout->addWidget(edit, row, 1);
+        layout->addWidget(quantity, row, 1);
     }
-    auto* note = new QLabel("** Note:  Use R/D=1.5 values for R/D=5 bends for 45°, 90°, and 180° elbows. **");
-    pages["Elbows"]->addWidget(note, pages["Elbows"]->rowCount(), 0);
+    QGridLayout* elbows = pages["Elbows"];
+    elbows->addWidget(new QLabel("** Note:  Use R/D=1.5 values for R/D=5 bends for 45°, 90°, and 180° elbows. **"),
+                      elbows->rowCount(), 0);
     for (auto& [name, page] : pages)
         page->setRowStretch(page->rowCount(), 1);
+    return tabs;
+}
 
+QGroupBox* frmMinorLosses::reducerFrame()
+{
+    using namespace minor_losses;
     auto* reducers = new QGroupBox("Enlargements and Contractions", this);
-    status(reducers, "Enlargement and Contraction Losses");
+    view().status(reducers, "Enlargement and Contraction Losses");
     auto* r = new QGridLayout(reducers);
     const char* labels[] = {"Enlargements:", "Contractions:", "Other Losses, K3:"};
     for (int i = 0; i < 3; ++i) {
-        QLineEdit* edit = i == 2 ? field("txtKValue(2)", [this](const QString& text) {
-            model_.txtKValue[2] = text.toStdString();
-            model_.txtKValue_LostFocus(2);
-        }, true, false) : output(QString("txtKValue(%1)").arg(i));
-        if (i == 2)
-            connect(edit, &QLineEdit::textEdited, this, guarded(windowTitle().toStdString(), ui_, [this](const QString& text) {
-                model_.txtKValue[2] = text.toStdString();
-                model_.Sum();
-            }));
-        txtKValue_[static_cast<size_t>(i)] = edit;
         r->addWidget(new QLabel(labels[i]), i, 0);
-        r->addWidget(edit, i, 1);
+        r->addWidget(view().field(txtKValue(i)), i, 1);
     }
-    r->addWidget(button("cmdEnlargementTable", "Compute Enlargements", [this] { model_.cmdEnlargementTable_Click(); }), 0, 2);
-    r->addWidget(button("cmdContractionTable", "Compute Contractions", [this] { model_.cmdContractionTable_Click(); }), 1, 2);
+    r->addWidget(view().button(cmdEnlargementTable, "Compute Enlargements"), 0, 2);
+    r->addWidget(view().button(cmdContractionTable, "Compute Contractions"), 1, 2);
+    return reducers;
+}
 
+QGroupBox* frmMinorLosses::totalsFrame()
+{
+    using namespace minor_losses;
     auto* totals = new QGroupBox("Totals", this);
     auto* t = new QGridLayout(totals);
-    const char* totalNames[] = {"txtTotalK1", "txtTotalK2", "txtTotalK"};
-    const char* totalLabels[] = {"K1:", "K2:", "K3:"};
+    const Control fields[] = {txtTotalK1, txtTotalK2, txtTotalK};
+    const char* labels[] = {"K1:", "K2:", "K3:"};
     for (int i = 0; i < 3; ++i) {
-        totals_[i] = output(totalNames[i]);
-        totals_[i]->setToolTip(i < 2 ? "Total, 2-K Method" : "Total Resistance Coeficient, K");
-        t->addWidget(new QLabel(totalLabels[i]), i, 0);
-        t->addWidget(totals_[i], i, 1);
+        t->addWidget(new QLabel(labels[i]), i, 0);
+        t->addWidget(view().field(fields[i]), i, 1);
     }
-    imgFitting_ = new FittingSketch(this);
-
-    auto* apply = button("cmdApply", "Apply Results", [this] { model_.cmdApply_Click(); });
-    apply->setDefault(true);
-    auto* buttons = new QHBoxLayout;
-    buttons->addWidget(button("cmdReset", "Reset Input Fields", [this] { model_.cmdReset_Click(); }));
-    buttons->addStretch();
-    buttons->addWidget(apply);
-    buttons->addWidget(button("cmdClose", "&Close", [this] { model_.cmdClose_Click(); }));
-    onCancel = [this] { model_.cmdClose_Click(); };
-    auto* right = new QVBoxLayout;
-    right->addWidget(reducers);
-    right->addWidget(totals);
-    right->addWidget(imgFitting_);
-    right->addStretch();
-    auto* top = new QHBoxLayout;
-    top->addWidget(tabs, 2);
-    top->addLayout(right, 1);
-    auto* layout = new QVBoxLayout(this);
-    layout->addLayout(top);
-    layout->addLayout(buttons);
+    return totals;
 }
-
-void frmMinorLosses::render()
-{
-    for (int n = 0; n < 35; ++n)
-        setText(txtQuantity_[static_cast<size_t>(n)], model_.txtQuantity[static_cast<size_t>(n)]);
-    for (int i = 0; i < 3; ++i)
-        setText(txtKValue_[static_cast<size_t>(i)], model_.txtKValue[static_cast<size_t>(i)]);
-    setText(totals_[0], model_.txtTotalK1);
-    setText(totals_[1], model_.txtTotalK2);
-    setText(totals_[2], model_.txtTotalK);
-}
-
 
 // --- Contractions and enlargements ------------------------------------------------------
 
 frmReducer::frmReducer(ReducerModel& model, UserInterface& ui, QWidget* parent)
     : ToolDialog(model, ui, model.title() == "Contractions" ? "frmContractions" : "frmEnlargements",
-                 QString::fromStdString(model.title() == "Contractions" ? "Contractions" : "Enlargements"), parent),
-      model_(model)
+                 QString::fromStdString(model.title() == "Contractions" ? "Contractions" : "Enlargements"), parent)
 {
+    using namespace reducer;
     const bool contraction = model.title() == "Contractions";
-    status(this, contraction ? "Compute Contraction Losses" : "Compute Enlargement Losses");
+    view().status(this, contraction ? "Compute Contraction Losses" : "Compute Enlargement Losses");
     auto* grid = new QGridLayout;
     grid->addWidget(new QLabel(QString::fromStdString(model.gradualLabel())), 0, 0);
     grid->addWidget(new QLabel("Angle"), 0, 1);
     grid->addWidget(new QLabel("Beta"), 0, 2);
     grid->addWidget(new QLabel("K"), 0, 3);
-    for (int row = 0; row < ReducerModel::kRows; ++row) {
-        const int line = row < ReducerModel::kGradualRows ? row + 1 : row + 2;
-        if (row == ReducerModel::kGradualRows)
+    for (int row = 0; row < kRows; ++row) {
+        const int line = row < kGradualRows ? row + 1 : row + 2;
+        if (row == kGradualRows)
             grid->addWidget(new QLabel(QString::fromStdString(model.suddenLabel())), line - 1, 0);
-        if (row < ReducerModel::kGradualRows) {
-            QLineEdit* angle = field(QString("txtAngle(%1)").arg(row), [this, row](const QString& text) {
-                model_.txtAngle[static_cast<size_t>(row)] = text.toStdString();
-                model_.txtAngle_LostFocus(row);
-            }, true, false);
-            angle->setToolTip("Angle in Degrees");
+        if (row < kGradualRows) {
+            QLineEdit* angle = view().field(txtAngle(row));
             angle->setProperty("fittingGroup", "Gradual");
-            status(angle, "Valid angles:  0 < Angle < 180");
-            txtAngle_[static_cast<size_t>(row)] = angle;
+            view().status(angle, "Valid angles:  0 < Angle < 180");
             grid->addWidget(angle, line, 1);
         }
-        QLineEdit* beta = field(QString("txtBeta(%1)").arg(row), [this, row](const QString& text) {
-            model_.txtBeta[static_cast<size_t>(row)] = text.toStdString();
-            model_.txtBeta_LostFocus(row);
-        }, true, false);
-        beta->setToolTip("d / D");
-        beta->setProperty("fittingGroup", row < ReducerModel::kGradualRows ? "Gradual" : "Sudden");
-        status(beta, contraction ? "Valid Beta:  0 < Beta < 1" : "Valid angles:  0 < Angle < 180");
-        txtBeta_[static_cast<size_t>(row)] = beta;
-        txtKValue_[static_cast<size_t>(row)] = output(QString("txtKValue(%1)").arg(row));
+        QLineEdit* beta = view().field(txtBeta(row));
+        beta->setProperty("fittingGroup", row < kGradualRows ? "Gradual" : "Sudden");
+        view().status(beta, contraction ? "Valid Beta:  0 < Beta < 1" : "Valid angles:  0 < Angle < 180");
         grid->addWidget(beta, line, 2);
-        grid->addWidget(txtKValue_[static_cast<size_t>(row)], line, 3);
+        grid->addWidget(view().field(txtKValue(row)), line, 3);
     }
-    txtTotalK_ = output("txtTotalK");
-    grid->addWidget(new QLabel("Total K:"), ReducerModel::kRows + 2, 2);
-    grid->addWidget(txtTotalK_, ReducerModel::kRows + 2, 3);
-    imgFitting_ = new FittingSketch(this);
+    grid->addWidget(new QLabel("Total K:"), kRows + 2, 2);
+    grid->addWidget(view().field(txtTotalK), kRows + 2, 3);
 
-    auto* apply = button("cmdApply", "Apply Results", [this] { model_.cmdApply_Click(); });
+    QPushButton* apply = view().button(cmdApply, "Apply Results");
     apply->setDefault(true);
+    auto* help = new QPushButton("Help with Equations", this);
+    help->setObjectName("cmdHelp");
+    help->setAutoDefault(false);
+    connect(help, &QPushButton::clicked, this, [this] { view().guard([this] { showHelpUnavailable(ui_); }); });
     auto* buttons = new QHBoxLayout;
-    buttons->addWidget(button("cmdReset", "Reset All Input Data", [this] { model_.cmdReset_Click(); }));
-    buttons->addWidget(button("cmdHelp", "Help with Equations", [this] {
-        showHelpUnavailable(ui_);
-    }));
+    buttons->addWidget(view().button(cmdReset, "Reset All Input Data"));
+    buttons->addWidget(help);
     buttons->addStretch();
     buttons->addWidget(apply);
-    buttons->addWidget(button("cmdClose", "&Close", [this] { model_.cmdClose_Click(); }));
-    onCancel = [this] { model_.cmdClose_Click(); };
+    buttons->addWidget(view().button(cmdClose, "&Close"));
+    onCancel = [&model] { model.cmdClose_Click(); };
     auto* top = new QHBoxLayout;
     top->addLayout(grid);
-    top->addWidget(imgFitting_, 0, Qt::AlignTop);
+    top->addWidget(new FittingSketch(this), 0, Qt::AlignTop);
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(top);
     layout->addLayout(buttons);
 }
-
-void frmReducer::render()
-{
-    for (int row = 0; row < ReducerModel::kRows; ++row) {
-        if (row < ReducerModel::kGradualRows)
-            setText(txtAngle_[static_cast<size_t>(row)], model_.txtAngle[static_cast<size_t>(row)]);
-        setText(txtBeta_[static_cast<size_t>(row)], model_.txtBeta[static_cast<size_t>(row)]);
-        setText(txtKValue_[static_cast<size_t>(row)], model_.txtKValue[static_cast<size_t>(row)]);
-    }
-    setText(txtTotalK_, model_.txtTotalK);
-    if (!model_.focusRequest.empty()) {
-        if (QWidget* target = findChild<QWidget*>(QString::fromStdString(model_.focusRequest)))
-            target->setFocus();
-        model_.focusRequest.clear();
-    }
-}
-
 
 } // namespace kestrova

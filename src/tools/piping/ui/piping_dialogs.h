@@ -10,6 +10,7 @@
 
 #include <array>
 
+class QGroupBox;
 class QLabel;
 class QListWidget;
 class QRadioButton;
@@ -23,22 +24,19 @@ public:
     frmPipe(PipeModel& model, UserInterface& ui, QWidget* parent);
 
 protected:
-    void render() override;
+    void renderDrawing() override;
 
 private:
     QWidget* buildClass(int pipeClass);
+    QTableWidget* buildGrid(int pipeClass);
     void fillGrid(int pipeClass);
+    void copySelection();
     PipeModel& model_;
-    QTabWidget* tabs_ = nullptr;
     std::array<QListWidget*, 2> lstMaterial_{};
     std::array<QTableWidget*, 2> grid_{};
-    std::array<std::array<QRadioButton*, 3>, 2> optMaterial_{};
-    std::array<std::array<QRadioButton*, 2>, 2> optCondition_{};
-    std::array<QLineEdit*, 2> txtRoughness_{};
-    std::array<QComboBox*, 2> cboUnits_{};
-    std::array<const PipeTable*, 2> shownGrid_{};
+    std::array<PipeTable, 2> shownGrid_{};
     std::array<std::vector<std::string>, 2> shownMaterials_{};
-    QPushButton* select_ = nullptr;
+    bool drawing_ = false; // the lists and grids are being drawn: their signals are not the user's
 };
 
 class frmRoughness : public ToolDialog {
@@ -46,14 +44,9 @@ public:
     frmRoughness(RoughnessModel& model, UserInterface& ui, QWidget* parent);
 
 protected:
-    void render() override;
+    void renderDrawing() override; // Enter selects while Select is enabled
 
 private:
-    RoughnessModel& model_;
-    std::array<QRadioButton*, 9> optPipeRoughness_{};
-    std::array<QRadioButton*, 2> optPipeCondition_{};
-    QLineEdit* txtData_ = nullptr;
-    QComboBox* cboUnits_ = nullptr;
     QPushButton* select_ = nullptr;
 };
 
@@ -78,31 +71,15 @@ class frmMinorLosses : public ToolDialog {
 public:
     frmMinorLosses(MinorLossesModel& model, UserInterface& ui, QWidget* parent);
 
-protected:
-    void render() override;
-
 private:
-    MinorLossesModel& model_;
-    std::array<QLineEdit*, 35> txtQuantity_{};
-    std::array<QLineEdit*, 3> txtKValue_{};
-    QLineEdit* totals_[3]{};
-    FittingSketch* imgFitting_ = nullptr;
+    QTabWidget* fittingTabs();
+    QGroupBox* reducerFrame();
+    QGroupBox* totalsFrame();
 };
 
 class frmReducer : public ToolDialog {
 public:
     frmReducer(ReducerModel& model, UserInterface& ui, QWidget* parent);
-
-protected:
-    void render() override;
-
-private:
-    ReducerModel& model_;
-    std::array<QLineEdit*, 5> txtAngle_{};
-    std::array<QLineEdit*, 10> txtBeta_{};
-    std::array<QLineEdit*, 10> txtKValue_{};
-    QLineEdit* txtTotalK_ = nullptr;
-    FittingSketch* imgFitting_ = nullptr;
 };
 
 } // namespace kestrova

@@ -1,16 +1,16 @@
 #include "tools/properties/model/compress_factor_model.h"
 
+#include "forms/model/user_interface.h"
 #include "forms/store/global_units.h"
 #include "forms/store/settings_store.h"
-#include "forms/model/user_interface.h"
 #include "numeric/display_mask.h"
-#include "numeric/field_text.h"
 #include "numeric/numeric_fault.h"
 #include "tools/properties/calc/equations_of_state.h"
 #include "tools/properties/model/phys_props.h"
 
-
 namespace kestrova {
+
+using namespace compress_factor;
 
 namespace {
 
@@ -20,16 +20,29 @@ const FieldKind kPressure{"Pressure", PressureToUnit, PressureFromUnit,
                           {"##,##0.00", "##,##0.00", "##,##0.00", "##,##0.00", "##,##0.00", "##,##0.00", "##,##0.00",
                            "##,##0.00"}};
 
+using D = CompressFactorData;
+const std::array<DialogField<D>, kFields> kFieldTable{{
+    {{&kTemperature, Quantity::Temperature, &D::temperature}, kDialogInput},
+    {{&kPressure, Quantity::Pressure, &D::pressure}, kDialogInput},
+    {{&kTemperature, Quantity::Temperature, &D::criticalTemperature}, kDialogInput},
+    {{&kPressure, Quantity::Pressure, &D::criticalPressure}, kDialogInput},
+    {{nullptr, Quantity::Length, &D::acentricFactor}, kDialogInput},
+    {{}, kDialogResult},
+}};
+
 } // namespace
 
-const FieldKind& CompressFactorModel::kindOf(int index)
+CompressFactorModel::CompressFactorModel(UserInterface& ui, SettingsStore* store, bool dataBaseValid, QObject* parent)
+    : UnitFieldDialogModel(ui, kFieldTable, Z, kTitle, "A compressibility factor has not been computed.", parent),
+      store_(store), dataBaseValid_(dataBaseValid)
 {
-    return index % 2 == 0 ? kTemperature : kPressure;
-}
-
-CompressFactorModel::CompressFactorModel(UserInterface& ui, SettingsStore* store, QObject* parent)
-    : FormModel(parent), ui_(ui), store_(store)
-{
+    chkHydrogen_.toolTip = "Used only for S-R-K";
+    controls().family("optEOS", optEOS_);
+    controls().add(compress_factor::chkHydrogen, chkHydrogen_);
+    controls().add(unit_field_dialog::cmdApply, cmdApply_);
+    controls().add(compress_factor::cmdPhysProps, cmdPhysProps_);
+    controls().add(inputsFrame, inputs_);
+    showChoices();
 }
 
 void CompressFactorModel::Form_Load()
@@ -45,38 +58,14 @@ void CompressFactorModel::Form_Activate()
     ComputeZ();
 }
 
-void CompressFactorModel::showField(int index)
+// The options show the equation and the hydrogen form; the acentric factor
+// is read only by the equations that take it.
+void CompressFactorModel::showChoices()
 {
-    const Single values[] = {temperature, pressure, criticalTemperature, criticalPressure};
-    txtData[static_cast<size_t>(index)] = unitFieldText(kindOf(index), values[index], cboUnits[static_cast<size_t>(index)]);
-}
-
-void CompressFactorModel::setUnit(int index, UnitIndex unit)
-{
-    if (index < 0 || index > 3)
-        return;
-    ChangeNotice notice(*this);
-    cboUnits[static_cast<size_t>(index)] = unit;
-    showField(index);
-}
-
-void CompressFactorModel::commitText(int index)
-{
-    Single* targets[] = {&temperature, &pressure, &criticalTemperature, &criticalPressure};
-    if (index >= 0 && index < 4) {
-        *targets[index] =
-            unitFieldValue(kindOf(index), txtData[static_cast<size_t>(index)], cboUnits[static_cast<size_t>(index)]);
-        showField(index);
-    }
-}
-
-void CompressFactorModel::txtData_LostFocus(int index)
-{
-    if (index < 0 || index > 4)
-        return;
-    ChangeNotice notice(*this);
-    commitText(index);
-    ComputeZ();
+    for (int i = 0; i < 3; ++i)
+        optEOS_[static_cast<size_t>(i)].checked = i == eos_;
+    chkHydrogen_.checked = hydrogen_;
+    txtData[AcentricFactor].enabled = eos_ != 0;
 }
 
 void CompressFactorModel::optEOS_Click(int index)
@@ -84,113 +73,107 @@ void CompressFactorModel::optEOS_Click(int index)
     if (index < 0 || index > 2)
         return;
     ChangeNotice notice(*this);
-    eos = index;
+    eos_ = index;
     if (store_)
         store_->save("Settings", "EOSOption", std::to_string(index));
-    acentricEnabled = index != 0;
+    showChoices();
     ComputeZ();
 }
 
 void CompressFactorModel::chkHydrogen_Click(bool checked)
 {
     ChangeNotice notice(*this);
-    hydrogen = checked;
+    hydrogen_ = checked;
+    showChoices();
     ComputeZ();
 }
 
+void CompressFactorModel::clickOther(const Control& control)
+{
+    if (control.family == "optEOS")
+        optEOS_Click(control.index);
+    else if (control == compress_factor::cmdPhysProps)
+        cmdPhysProps_Click();
+}
+
+void CompressFactorModel::choose(const Control& list, int entry)
+{
+    if (list == compress_factor::chkHydrogen)
+        chkHydrogen_Click(entry != 0);
+    else
+        UnitFieldDialogModel::choose(list, entry);
+}
+
+// An empty or unreadable acentric factor where the equation takes one, or
+// conditions without a Z, leave the result empty.
 void CompressFactorModel::ComputeZ()
 {
+    const CompressFactorData& r = record_;
     try {
-        double omega = 0;
-        if (acentricEnabled) {
-            omega = requiredFieldSingle(txtData[4]);
-        }
-        const Single z = computeCompressibility(temperature, pressure, criticalTemperature, criticalPressure, omega,
-                                                eos, hydrogen);
-        txtData[5] = formatMask(z, "#0.0000");
+        const double omega = txtData[AcentricFactor].enabled ? double(requiredFieldSingle(txtData[AcentricFactor].text)) : 0.0;
+        const Single z = computeCompressibility(r.temperature, r.pressure, r.criticalTemperature, r.criticalPressure,
+                                                omega, eos_, hydrogen_);
+        txtData[Z].text = formatMask(z, "#0.0000");
     } catch (const NumericFault&) {
-        txtData[5].clear();
+        txtData[Z].text.clear();
     }
 }
 
-void CompressFactorModel::cmdApply_Click()
+// The critical conditions and the acentric factor of the gas the physical
+// properties tool last gave, and its name on the frame.
+void CompressFactorModel::takeGasProperties()
 {
-    ChangeNotice notice(*this);
-    if (txtData[5].empty()) {
-        ui_.ask(kTitle, "A compressibility factor has not been computed.", MessageIcon::Warning, MessageButtons::Ok,
-                MessageAnswer::Ok);
-        return;
-    }
-    closeRequested = true;
+    const PhysProps& props = physProps();
+    record_.criticalPressure = props.criticalPressure;
+    record_.criticalTemperature = props.criticalTemperature;
+    commitText(AcentricFactor, plainNumberText(props.acentricFactor));
+    showField(CriticalTemperature);
+    showField(CriticalPressure);
+    if (!props.gasName.empty())
+        inputs_.caption = "Inputs:  " + props.gasName;
 }
 
-void CompressFactorModel::cmdClose_Click()
+void CompressFactorModel::cmdPhysProps_Click()
 {
     ChangeNotice notice(*this);
-    cancelled = true;
-    closeRequested = true;
-}
-
-void CompressFactorModel::cmdPhysProps_Click(bool dataBaseValid)
-{
-    ChangeNotice notice(*this);
-    if (!dataBaseValid) {
+    if (!dataBaseValid_) {
         ui_.ask(kTitle, "The physical properties data base cannot be found. Use File, Locate Data Base to choose it.",
                 MessageIcon::Warning, MessageButtons::Ok, MessageAnswer::Ok);
         return;
     }
     propertiesCancelled() = false;
-    propertiesCancelled() = !ui_.GetPhysicalProperties(FluidKind::Gas, temperature);
+    propertiesCancelled() = !ui_.GetPhysicalProperties(FluidKind::Gas, record_.temperature);
     if (propertiesCancelled())
         return;
-    const PhysProps& props = physProps();
-    criticalPressure = props.criticalPressure;
-    criticalTemperature = props.criticalTemperature;
-    txtData[4] = plainNumberText(props.acentricFactor);
-    showField(2);
-    showField(3);
-    if (!props.gasName.empty())
-        inputsCaption = "Inputs:  " + props.gasName;
+    takeGasProperties();
     ComputeZ();
 }
 
 void CompressFactorModel::cmdReset_Click()
 {
     ChangeNotice notice(*this);
-    if (ui_.ask("Compressibility Factors", "Reset all input fields?", MessageIcon::Question, MessageButtons::OkCancel,
-                MessageAnswer::Ok) == MessageAnswer::Cancel)
+    if (!askReset("Compressibility Factors"))
         return;
-    cboUnits = {globalUnits()[Quantity::Temperature], globalUnits()[Quantity::Pressure],
-                globalUnits()[Quantity::Temperature], globalUnits()[Quantity::Pressure]};
-    temperature = pressure = criticalTemperature = criticalPressure = 0.0;
-    for (int i = 0; i < 4; ++i)
-        txtData[static_cast<size_t>(i)] = "0.00";
-    txtData[4].clear();
-    txtData[5].clear();
-    inputsCaption = "Inputs";
+    takeGlobalUnits();
+    record_ = CompressFactorData{};
+    for (int i : {Temperature, Pressure, CriticalTemperature, CriticalPressure})
+        txtData[static_cast<size_t>(i)].text = "0.00";
+    txtData[AcentricFactor].text.clear();
+    txtData[Z].text.clear();
+    inputs_.caption = "Inputs";
 }
 
-Single CompressFactorModel::GetZValue(Single t, Single p, const std::function<void()>& showModal)
+Single CompressFactorModel::GetZValue(Single temperature, Single pressure, const std::function<void()>& showModal)
 {
-    {
-        ChangeNotice notice(*this);
-        cancelled = false;
-        pressure = p;
-        temperature = t;
-        const PhysProps& props = physProps();
-        criticalPressure = props.criticalPressure;
-        criticalTemperature = props.criticalTemperature;
-        txtData[4] = plainNumberText(props.acentricFactor);
-        for (int i = 0; i < 4; ++i)
-            showField(i);
-        if (!props.gasName.empty())
-            inputsCaption = "Inputs:  " + props.gasName;
-        ComputeZ();
-    }
-    showModal();
-    if (cancelled)
-        return 0.0;
-    return fieldSingleOr0(txtData[5]);
+    return runForResult(
+        [&] {
+            record_.pressure = pressure;
+            record_.temperature = temperature;
+            takeGasProperties();
+            showFields();
+            ComputeZ();
+        },
+        showModal);
 }
 
 } // namespace kestrova

@@ -1,6 +1,5 @@
 #include "tools/properties/model/heat_cap_ratio_model.h"
 
-#include "forms/store/global_units.h"
 #include "forms/model/user_interface.h"
 #include "numeric/checked_math.h"
 #include "numeric/display_mask.h"
@@ -10,6 +9,7 @@
 
 namespace kestrova {
 
+using namespace heat_cap_ratio;
 using checked::Div;
 using checked::Pow;
 
@@ -22,6 +22,16 @@ const FieldKind kPressure{"Pressure", PressureToUnit, PressureFromUnit,
                            "##,##0.00"}};
 const FieldKind kHeatCapacity{"Heat Capacity", HeatCapacityToUnit, HeatCapacityFromUnit,
                               {"##,##0.00", "##,##0.00", "##,##0.00"}};
+
+using D = HeatCapRatioData;
+const std::array<DialogField<D>, kFields> kFieldTable{{
+    {{&kTemperature, Quantity::Temperature, &D::temperature}, kDialogInput},
+    {{&kPressure, Quantity::Pressure, &D::pressure}, kDialogInput},
+    {{&kTemperature, Quantity::Temperature, &D::criticalTemperature}, kDialogInput},
+    {{&kPressure, Quantity::Pressure, &D::criticalPressure}, kDialogInput},
+    {{&kHeatCapacity, Quantity::HeatCapacity, &D::heatCapacity}, kDialogInput},
+    {{}, kDialogResult},
+}};
 
 } // namespace
 
@@ -50,66 +60,42 @@ const std::array<TypicalRatio, 18>& typicalRatios()
     return ratios;
 }
 
-const FieldKind& HeatCapRatioModel::kindOf(int index)
+HeatCapRatioModel::HeatCapRatioModel(UserInterface& ui, bool dataBaseValid, QObject* parent)
+    : UnitFieldDialogModel(ui, kFieldTable, Ratio, kTitle, "A Heat Capacity Ratio has not been computed.", parent),
+      dataBaseValid_(dataBaseValid)
 {
-    return index == 4 ? kHeatCapacity : index % 2 == 0 ? kTemperature : kPressure;
+    txtData[Ratio].toolTip = "Specific Heat Ratio";
+    for (int i = 0; i < kOptions; ++i)
+        options_[static_cast<size_t>(i)].toolTip = typicalRatios()[static_cast<size_t>(i)].formula;
+    controls().family("Option1", options_);
+    controls().add(unit_field_dialog::cmdApply, cmdApply_);
+    controls().add(heat_cap_ratio::cmdPhysProps, cmdPhysProps_);
+    controls().add(lblError, lblError_);
+    controls().add(realGasFrame, realGas_);
 }
-
-HeatCapRatioModel::HeatCapRatioModel(UserInterface& ui, QObject* parent) : FormModel(parent), ui_(ui) {}
 
 void HeatCapRatioModel::Form_Activate()
 {
     ChangeNotice notice(*this);
     ui_.setStatusText("Enter system parameters");
-    for (int i = 0; i < 5; ++i)
-        showField(i);
+    showFields();
 }
 
-void HeatCapRatioModel::showField(int index)
-{
-    const Single values[] = {temperature, pressure, criticalTemperature, criticalPressure, heatCapacity};
-    txtData[static_cast<size_t>(index)] = unitFieldText(kindOf(index), values[index], cboUnits[static_cast<size_t>(index)]);
-}
-
-void HeatCapRatioModel::setUnit(int index, UnitIndex unit)
-{
-    if (index < 0 || index > 4)
-        return;
-    ChangeNotice notice(*this);
-    cboUnits[static_cast<size_t>(index)] = unit;
-    showField(index);
-}
-
-void HeatCapRatioModel::commitText(int index)
-{
-    Single* targets[] = {&temperature, &pressure, &criticalTemperature, &criticalPressure, &heatCapacity};
-    if (index >= 0 && index < 5) {
-        *targets[index] =
-            unitFieldValue(kindOf(index), txtData[static_cast<size_t>(index)], cboUnits[static_cast<size_t>(index)]);
-        showField(index);
-    }
-}
-
-void HeatCapRatioModel::txtData_LostFocus(int index)
-{
-    if (index < 0 || index > 5)
-        return;
-    ChangeNotice notice(*this);
-    commitText(index);
-    ComputeRatio();
-}
-
+// A ratio not above 1 shows "(Check Input)" and turns the result red.
 void HeatCapRatioModel::ComputeRatio()
 {
+    HeatCapRatioData& r = record_;
     try {
         FaultScope scope("ComputeRatio");
-        const Single T = temperature + 459.67;
-        const Single Pr = Div(pressure, criticalPressure);
-        const Single Tr = Div(T, criticalTemperature + 459.67);
+        const Single T = r.temperature + 459.67;
+        const Single Pr = Div(r.pressure, r.criticalPressure);
+        const Single Tr = Div(T, r.criticalTemperature + 459.67);
         const Single G = Div(Pr, Pow(Tr, 2)) * Pow(Div(0.712, Tr) + 0.132, 2) + 1;
-        ratio = Div(heatCapacity, heatCapacity - 8.314 * G);
-        errorShown = !(ratio > 1.0);
-        txtData[5] = formatMask(ratio, "#0.000");
+        r.ratio = Div(r.heatCapacity, r.heatCapacity - 8.314 * G);
+        const bool checkInput = !(r.ratio > 1.0);
+        lblError_.visible = checkInput;
+        txtData[Ratio].red = checkInput;
+        txtData[Ratio].text = formatMask(r.ratio, "#0.000");
     } catch (const NumericFault&) {
         // The fields stay as they are.
     }
@@ -117,96 +103,97 @@ void HeatCapRatioModel::ComputeRatio()
 
 void HeatCapRatioModel::Option1_Click(int index)
 {
-    if (index < 0 || index > 17)
+    if (index < 0 || index >= kOptions)
         return;
     ChangeNotice notice(*this);
-    option = index;
-    if (index < 17) {
-        txtData[5] = typicalRatios()[static_cast<size_t>(index)].value;
+    for (int i = 0; i < kOptions; ++i)
+        options_[static_cast<size_t>(i)].checked = i == index;
+    if (index < kOptions - 1) {
+        txtData[Ratio].text = typicalRatios()[static_cast<size_t>(index)].value;
     } else {
-        txtData[5].clear();
-        txtData_LostFocus(5);
+        txtData[Ratio].text.clear();
+        txtData_LostFocus(Ratio);
     }
 }
 
-void HeatCapRatioModel::cmdApply_Click()
+void HeatCapRatioModel::Option1_DblClick(int index)
 {
-    ChangeNotice notice(*this);
-    if (txtData[5].empty()) {
-        ui_.ask(kTitle, "A Heat Capacity Ratio has not been computed.", MessageIcon::Warning, MessageButtons::Ok,
-                MessageAnswer::Ok);
+    if (index < 0 || index >= kOptions || !cmdApply_.enabled)
         return;
-    }
-    closeRequested = true;
+    cmdApply_Click();
 }
 
-void HeatCapRatioModel::cmdClose_Click()
+void HeatCapRatioModel::clickOther(const Control& control)
 {
-    ChangeNotice notice(*this);
-    cancelled = true;
-    closeRequested = true;
+    if (control.family == "Option1")
+        Option1_Click(control.index);
+    else if (control == heat_cap_ratio::cmdPhysProps)
+        cmdPhysProps_Click();
 }
 
-void HeatCapRatioModel::cmdPhysProps_Click(bool dataBaseValid)
+void HeatCapRatioModel::doubleClick(const Control& control)
+{
+    if (control.family == "Option1")
+        Option1_DblClick(control.index);
+}
+
+// The critical conditions and heat capacity of the gas the physical
+// properties tool last gave, and its name on the frame.
+void HeatCapRatioModel::takeGasProperties()
+{
+    const PhysProps& props = physProps();
+    record_.criticalPressure = props.criticalPressure;
+    record_.criticalTemperature = props.criticalTemperature;
+    record_.heatCapacity = props.heatCapacity;
+    if (!props.gasName.empty())
+        realGas_.caption = "Real Gas Calculation:  " + props.gasName;
+}
+
+void HeatCapRatioModel::cmdPhysProps_Click()
 {
     ChangeNotice notice(*this);
-    if (!dataBaseValid) {
+    if (!dataBaseValid_) {
         ui_.ask(kTitle, "The physical properties data base cannot be found. Use File, Locate Data Base to choose it.",
                 MessageIcon::Warning, MessageButtons::Ok, MessageAnswer::Ok);
         return;
     }
     propertiesCancelled() = false;
-    propertiesCancelled() = !ui_.GetPhysicalProperties(FluidKind::Gas, temperature);
+    propertiesCancelled() = !ui_.GetPhysicalProperties(FluidKind::Gas, record_.temperature);
     if (propertiesCancelled())
         return;
-    const PhysProps& props = physProps();
-    criticalPressure = props.criticalPressure;
-    criticalTemperature = props.criticalTemperature;
-    heatCapacity = props.heatCapacity;
-    for (int i : {2, 3, 4})
+    takeGasProperties();
+    for (int i : {CriticalTemperature, CriticalPressure, HeatCapacity})
         showField(i);
-    if (!props.gasName.empty())
-        frameCaption = "Real Gas Calculation:  " + props.gasName;
     ComputeRatio();
 }
 
 void HeatCapRatioModel::cmdReset_Click()
 {
     ChangeNotice notice(*this);
-    if (ui_.ask("Heat Capacity Ratio's", "Reset all input fields?", MessageIcon::Question, MessageButtons::OkCancel,
-                MessageAnswer::Ok) == MessageAnswer::Cancel)
+    if (!askReset("Heat Capacity Ratio's"))
         return;
-    cboUnits = {globalUnits()[Quantity::Temperature], globalUnits()[Quantity::Pressure],
-                globalUnits()[Quantity::Temperature], globalUnits()[Quantity::Pressure],
-                globalUnits()[Quantity::HeatCapacity]};
-    temperature = pressure = criticalTemperature = criticalPressure = heatCapacity = 0.0;
-    for (int i = 0; i < 5; ++i)
-        txtData[static_cast<size_t>(i)] = "0.00";
-    txtData[5].clear();
-    frameCaption = "Real Gas Calculation";
+    takeGlobalUnits();
+    const Single ratio = record_.ratio;
+    record_ = HeatCapRatioData{};
+    record_.ratio = ratio;
+    for (int i = Temperature; i <= HeatCapacity; ++i)
+        txtData[static_cast<size_t>(i)].text = "0.00";
+    txtData[Ratio].text.clear();
+    realGas_.caption = "Real Gas Calculation";
 }
 
-Single HeatCapRatioModel::GetHeatCapRatioValue(Single t, Single p, const std::function<void()>& showModal)
+Single HeatCapRatioModel::GetHeatCapRatioValue(Single temperature, Single pressure,
+                                               const std::function<void()>& showModal)
 {
-    {
-        ChangeNotice notice(*this);
-        cancelled = false;
-        temperature = t;
-        pressure = p;
-        const PhysProps& props = physProps();
-        criticalPressure = props.criticalPressure;
-        criticalTemperature = props.criticalTemperature;
-        heatCapacity = props.heatCapacity;
-        for (int i = 0; i < 5; ++i)
-            showField(i);
-        if (!props.gasName.empty())
-            frameCaption = "Real Gas Calculation:  " + props.gasName;
-        ComputeRatio();
-    }
-    showModal();
-    if (cancelled)
-        return 0.0;
-    return fieldSingleOr0(txtData[5]);
+    return runForResult(
+        [&] {
+            record_.temperature = temperature;
+            record_.pressure = pressure;
+            takeGasProperties();
+            showFields();
+            ComputeRatio();
+        },
+        showModal);
 }
 
 } // namespace kestrova

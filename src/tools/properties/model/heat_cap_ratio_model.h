@@ -2,8 +2,7 @@
 // The heat capacity ratio tool (frmHeatCapRatio) without its window: k from a
 // real gas calculation on reduced conditions, or one of seventeen typical values.
 
-#include "forms/model/form_model.h"
-#include "units/unit_field.h"
+#include "forms/model/unit_field_dialog_model.h"
 
 #include <array>
 #include <functional>
@@ -21,41 +20,52 @@ struct TypicalRatio {
 // Option1(0) to Option1(17); the last one is the real gas calculation.
 const std::array<TypicalRatio, 18>& typicalRatios();
 
-class HeatCapRatioModel : public FormModel {
-    Q_OBJECT
+// The tool's values in internal units: °F, psia, kJ/(kmol K); the ratio it computes.
+struct HeatCapRatioData {
+    Single temperature, pressure, criticalTemperature, criticalPressure, heatCapacity, ratio;
+};
 
+namespace heat_cap_ratio {
+enum Field : int {
+    Temperature = 0, Pressure = 1, CriticalTemperature = 2, CriticalPressure = 3, HeatCapacity = 4, Ratio = 5,
+};
+inline constexpr int kFields = 6;
+inline constexpr int kOptions = 18;
+inline Control Option1(int i) { return {"Option1", i}; }
+inline const Control lblError{"lblError"};
+inline const Control cmdPhysProps{"cmdPhysProps"};
+inline const Control realGasFrame{"Frame1", 0};
+} // namespace heat_cap_ratio
+
+class HeatCapRatioModel : public UnitFieldDialogModel<HeatCapRatioData, heat_cap_ratio::kFields> {
 public:
     static constexpr const char* kTitle = "Heat Capacity Ratio";
 
-    explicit HeatCapRatioModel(UserInterface& ui, QObject* parent = nullptr);
+    explicit HeatCapRatioModel(UserInterface& ui, bool dataBaseValid = true, QObject* parent = nullptr);
 
     void Form_Activate();
-    void txtData_LostFocus(int index);
-    void commitText(int index);
-    void setUnit(int index, UnitIndex unit);
     void Option1_Click(int index);
-    void cmdApply_Click();
-    void cmdClose_Click();
-    void cmdPhysProps_Click(bool dataBaseValid);
-    void cmdReset_Click();
+    void Option1_DblClick(int index); // Apply, while Apply is enabled
+    void cmdPhysProps_Click();
+    void cmdReset_Click() override;
     void ComputeRatio();
 
     Single GetHeatCapRatioValue(Single temperature, Single pressure, const std::function<void()>& showModal);
 
-    // txtData(0) T, (1) P, (2) Tc, (3) Pc, (4) Cp, (5) k.
-    std::array<std::string, 6> txtData;
-    std::array<UnitIndex, 5> cboUnits{};
-    bool errorShown = false; // lblError "(Check Input)", and the ratio in red
-    int option = -1;
-    std::string frameCaption = "Real Gas Calculation";
-    Single temperature, pressure, criticalTemperature, criticalPressure, heatCapacity, ratio;
-    bool cancelled = false;
+    void doubleClick(const Control& control) override;
 
-    static const FieldKind& kindOf(int index);
+protected:
+    void compute() override { ComputeRatio(); }
+    void clickOther(const Control& control) override;
 
 private:
-    void showField(int index);
-    UserInterface& ui_;
+    void takeGasProperties();
+
+    bool dataBaseValid_;
+    std::array<ButtonControl, heat_cap_ratio::kOptions> options_;
+    ButtonControl cmdApply_, cmdPhysProps_;
+    LabelControl lblError_{"(Check Input)", false, false};
+    FrameControl realGas_{"Real Gas Calculation"};
 };
 
 } // namespace kestrova

@@ -7,8 +7,12 @@
 #include "tools/properties/model/phys_props.h"
 #include "units/basLoadUnits.h"
 
+#include <cctype>
+
 
 namespace kestrova {
+
+using namespace physical_properties;
 
 namespace {
 
@@ -88,7 +92,41 @@ const char* PhysicalPropertiesModel::rowUnitTag(int row)
 PhysicalPropertiesModel::PhysicalPropertiesModel(UserInterface& ui, std::vector<Compound> compounds, QObject* parent)
     : FormModel(parent), ui_(ui), compounds_(std::move(compounds))
 {
-    value[8] = 298.15;
+    value[SystemTemperature] = 298.15;
+    const TextControl result = controlOf(FieldRole{false, KeyRule::Number, FieldShade::Tinted});
+    for (int row = 0; row < kRows; ++row)
+        txtPhysProp[static_cast<size_t>(row)] =
+            row >= CriticalTemperature ? controlOf(FieldRole{true, KeyRule::SignedNumber, FieldShade::PaleYellow})
+                                       : controlOf(FieldRole{false, KeyRule::Number, FieldShade::PaleYellow});
+    txtPhysProp[SystemTemperature].shade = FieldShade::Normal;
+    txtLTL.fill(txtPhysProp[0]);
+    txtUTL.fill(txtPhysProp[0]);
+    txtMW = txtAF = result;
+    txtSearch = controlOf(FieldRole{true, KeyRule::Text, FieldShade::Normal});
+    cmdSelect.enabled = false; // until a tool asks for properties
+    cmdSelect.toolTip = "Apply Results";
+    ControlRegistry& all = controls();
+    all.family("txtPhysProp", txtPhysProp);
+    all.family("cboPPUnits", cboPPUnits);
+    all.family("txtLTL", txtLTL);
+    all.family("txtUTL", txtUTL);
+    all.add(physical_properties::txtMW, txtMW);
+    all.add(physical_properties::txtAF, txtAF);
+    all.add(physical_properties::txtSearch, txtSearch);
+    all.add(propertiesFrame, frame);
+    all.add(physical_properties::cmdSelect, cmdSelect);
+}
+
+// A row's fields and its limits take the shade that says how far its value
+// can be trusted; a row without a value has its unit list off.
+void PhysicalPropertiesModel::shadeRow(int row, FieldShade shade)
+{
+    txtPhysProp[static_cast<size_t>(row)].shade = shade;
+    if (row < 6) {
+        txtLTL[static_cast<size_t>(row)].shade = shade;
+        txtUTL[static_cast<size_t>(row)].shade = shade;
+    }
+    cboPPUnits[static_cast<size_t>(row)].enabled = shade != FieldShade::Blue;
 }
 
 void PhysicalPropertiesModel::Form_Activate()
@@ -100,7 +138,7 @@ void PhysicalPropertiesModel::Form_Activate()
                                    Quantity::Pressure,       Quantity::HeatCapacity,   Quantity::SurfaceTension,
                                    Quantity::Temperature,    Quantity::Pressure,       Quantity::Temperature};
     for (int row = 0; row < kRows; ++row)
-        cboPPUnits[static_cast<size_t>(row)] = globalUnits()[setup[row]];
+        cboPPUnits[static_cast<size_t>(row)].listIndex = globalUnits()[setup[row]];
     if (!compounds_.empty())
         position = std::clamp(rememberedCompoundPosition(), 0, static_cast<int>(compounds_.size()) - 1);
     Refresh();
@@ -133,20 +171,19 @@ void PhysicalPropertiesModel::Refresh()
     if (compounds_.empty())
         return;
     const Compound& c = compounds_[static_cast<size_t>(position)];
-    frameCaption = "Physical Properties:  " + c.name;
+    frame.caption = "Physical Properties:  " + c.name;
     if (!c.damage.empty()) {
         showDamaged();
         return;
     }
     value[6] = c.criticalTemperature.value_or(0);
     value[7] = c.criticalPressure.value_or(0);
-    for (int row : {6, 7}) {
-        const bool known = (row == 6 ? c.criticalTemperature : c.criticalPressure).has_value();
-        shade[static_cast<size_t>(row)] = known ? PropertyShade::InRange : PropertyShade::Missing;
-        unitEnabled[static_cast<size_t>(row)] = known;
+    for (int row : {CriticalTemperature, CriticalPressure}) {
+        const bool known = (row == CriticalTemperature ? c.criticalTemperature : c.criticalPressure).has_value();
+        shadeRow(row, known ? FieldShade::PaleYellow : FieldShade::Blue);
     }
-    txtMW = c.molecularWeight ? plainNumberText(*c.molecularWeight) : "";
-    txtAF = c.acentricFactor ? plainNumberText(*c.acentricFactor) : "";
+    txtMW.text = c.molecularWeight ? plainNumberText(*c.molecularWeight) : "";
+    txtAF.text = c.acentricFactor ? plainNumberText(*c.acentricFactor) : "";
     const double Tc = (value[6] - 32) / 1.8 + 273.15;
     const double T = value[8];
     for (int row = 0; row < 6; ++row) {
@@ -159,17 +196,12 @@ void PhysicalPropertiesModel::Refresh()
             result = 0; // a temperature beyond the correlation's reach
         }
         value[static_cast<size_t>(row)] = result;
-        PropertyShade& s = shade[static_cast<size_t>(row)];
-        if (!block.coefficients)
-            s = PropertyShade::Missing;
-        else if (T <= block.lower || T >= block.upper)
-            s = PropertyShade::OutOfRange;
-        else
-            s = PropertyShade::InRange;
-        unitEnabled[static_cast<size_t>(row)] = s != PropertyShade::Missing;
-        const UnitIndex tUnit = cboPPUnits[8];
-        txtLTL[static_cast<size_t>(row)] = limitText(block.lower, tUnit);
-        txtUTL[static_cast<size_t>(row)] = limitText(block.upper, tUnit);
+        shadeRow(row, !block.coefficients                        ? FieldShade::Blue
+                      : (T <= block.lower || T >= block.upper) ? FieldShade::Red
+                                                               : FieldShade::PaleYellow);
+        const UnitIndex tUnit = cboPPUnits[SystemTemperature].listIndex;
+        txtLTL[static_cast<size_t>(row)].text = limitText(block.lower, tUnit);
+        txtUTL[static_cast<size_t>(row)].text = limitText(block.upper, tUnit);
     }
     for (int row = 0; row < kRows; ++row)
         showRow(row);
@@ -182,22 +214,21 @@ void PhysicalPropertiesModel::showDamaged()
     const double temperature = value[8];
     value.fill(0);
     value[8] = temperature;
-    for (int row = 0; row < 8; ++row) {
-        txtPhysProp[static_cast<size_t>(row)].clear();
-        shade[static_cast<size_t>(row)] = PropertyShade::Missing;
-        unitEnabled[static_cast<size_t>(row)] = false;
+    for (int row = 0; row < SystemTemperature; ++row) {
+        txtPhysProp[static_cast<size_t>(row)].text.clear();
+        shadeRow(row, FieldShade::Blue);
     }
     for (auto* texts : {&txtLTL, &txtUTL})
-        for (std::string& text : *texts)
-            text.clear();
-    txtMW.clear();
-    txtAF.clear();
+        for (TextControl& limit : *texts)
+            limit.text.clear();
+    txtMW.text.clear();
+    txtAF.text.clear();
     showRow(8);
 }
 
 void PhysicalPropertiesModel::showRow(int row)
 {
-    const UnitIndex unit = cboPPUnits[static_cast<size_t>(row)];
+    const UnitIndex unit = cboPPUnits[static_cast<size_t>(row)].listIndex;
     const double v = value[static_cast<size_t>(row)];
     const double mw = compounds_.empty() ? 0 : compounds_[static_cast<size_t>(position)].molecularWeight.value_or(0);
     double shown = 0;
@@ -212,9 +243,9 @@ void PhysicalPropertiesModel::showRow(int row)
     default: shown = kelvinToUnit(v, unit); break;
     }
     try {
-        txtPhysProp[static_cast<size_t>(row)] = formatMask(shown, maskOf(row, unit));
+        txtPhysProp[static_cast<size_t>(row)].text = formatMask(shown, maskOf(row, unit));
     } catch (const NumericFault&) {
-        txtPhysProp[static_cast<size_t>(row)].clear();
+        txtPhysProp[static_cast<size_t>(row)].text.clear();
     }
 }
 
@@ -223,8 +254,8 @@ void PhysicalPropertiesModel::setUnit(int row, UnitIndex unit)
     if (row < 0 || row >= kRows)
         return;
     ChangeNotice notice(*this);
-    cboPPUnits[static_cast<size_t>(row)] = unit;
-    if (row == 8)
+    cboPPUnits[static_cast<size_t>(row)].listIndex = unit;
+    if (row == SystemTemperature)
         Refresh(); // the limits follow the temperature unit
     else
         showRow(row);
@@ -232,9 +263,11 @@ void PhysicalPropertiesModel::setUnit(int row, UnitIndex unit)
 
 void PhysicalPropertiesModel::txtPhysProp_LostFocus(int row)
 {
+    if (row < CriticalTemperature || row >= kRows)
+        return;
     ChangeNotice notice(*this);
-    const std::string& text = txtPhysProp[static_cast<size_t>(row)];
-    const UnitIndex unit = cboPPUnits[static_cast<size_t>(row)];
+    const std::string& text = txtPhysProp[static_cast<size_t>(row)].text;
+    const UnitIndex unit = cboPPUnits[static_cast<size_t>(row)].listIndex;
     try {
         const double typed = parseFieldNumber(text);
         if (row == 8)
@@ -260,10 +293,10 @@ void PhysicalPropertiesModel::cmdSelect_Click()
     const std::string& name = compounds_[static_cast<size_t>(position)].name;
     try {
         p.temperature = (value[8] - 273.15) * 1.8 + 32;
-        p.molecularWeight = fieldSingleOr0(txtMW);
+        p.molecularWeight = fieldSingleOr0(txtMW.text);
         p.criticalTemperature = value[6];
         p.criticalPressure = value[7];
-        p.acentricFactor = fieldSingleOr0(txtAF);
+        p.acentricFactor = fieldSingleOr0(txtAF.text);
         if (fluid != FluidKind::Liquid) {
             p.gasName = name;
             p.vaporViscosity = value[2];
@@ -294,12 +327,70 @@ void PhysicalPropertiesModel::GetPhysicalProperties(FluidKind kind, Single tempe
 {
     {
         ChangeNotice notice(*this);
-        selectEnabled = true;
+        cmdSelect.enabled = true;
         fluid = kind;
         value[8] = (temperature - 32) / 1.8 + 273.15;
         propertiesCancelled() = true; // closing the window any other way is a cancel
     }
     showModal();
+}
+
+void PhysicalPropertiesModel::txtSearch_Change(const std::string& text)
+{
+    ChangeNotice notice(*this);
+    txtSearch.text = text;
+    if (text.empty())
+        return;
+    const auto folded = [](std::string value) {
+        for (char& c : value)
+            c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+        return value;
+    };
+    const std::string wanted = folded(text);
+    int holding = -1;
+    for (size_t i = 0; i < compounds_.size(); ++i) {
+        const std::string name = folded(compounds_[i].name);
+        if (name.rfind(wanted, 0) == 0) {
+            dbcComp_Click(static_cast<int>(i));
+            return;
+        }
+        if (holding < 0 && name.find(wanted) != std::string::npos)
+            holding = static_cast<int>(i);
+    }
+    if (holding >= 0)
+        dbcComp_Click(holding);
+}
+
+void PhysicalPropertiesModel::commit(const Control& field, const std::string& text)
+{
+    if (TextControl* row = field.family == "txtPhysProp" ? elementOf(txtPhysProp, field) : nullptr; row && !row->locked) {
+        row->text = text;
+        txtPhysProp_LostFocus(field.index);
+    }
+}
+
+void PhysicalPropertiesModel::textEdited(const Control& field, const std::string& text)
+{
+    if (field == physical_properties::txtSearch)
+        txtSearch_Change(text);
+    else
+        FormModel::textEdited(field, text);
+}
+
+void PhysicalPropertiesModel::click(const Control& control)
+{
+    if (control == physical_properties::cmdSelect)
+        cmdSelect_Click();
+    else if (control == physical_properties::cmdClose)
+        cmdClose_Click();
+}
+
+void PhysicalPropertiesModel::choose(const Control& list, int entry)
+{
+    if (list.family == "cboPPUnits")
+        setUnit(list.index, static_cast<UnitIndex>(entry));
+    else if (list == physical_properties::dbcComp && entry != position)
+        dbcComp_Click(entry);
 }
 
 } // namespace kestrova

@@ -17,22 +17,53 @@
 
 namespace kestrova {
 
-// How a row's fields look: the pale colour of a value in range, blue for a
-// compound without that correlation, red for a temperature at or beyond a limit.
-enum class PropertyShade { InRange, Missing, OutOfRange };
+namespace physical_properties {
+inline constexpr int kRows = 9; // rows 6, 7 and 8 take typing
+enum Row : int {
+    LiquidDensity = 0, LiquidViscosity = 1, VaporViscosity = 2, VaporPressure = 3, HeatCapacity = 4,
+    SurfaceTension = 5, CriticalTemperature = 6, CriticalPressure = 7, SystemTemperature = 8,
+};
+inline Control txtPhysProp(int row) { return {"txtPhysProp", row}; }
+inline Control cboPPUnits(int row) { return {"cboPPUnits", row}; }
+inline Control txtLTL(int row) { return {"txtLTL", row}; }
+inline Control txtUTL(int row) { return {"txtUTL", row}; }
+inline const Control txtMW{"txtMW"};
+inline const Control txtAF{"txtAF"};
+inline const Control txtSearch{"txtSearch"};
+inline const Control dbcComp{"dbcComp"};
+inline const Control propertiesFrame{"Frame1", 3};
+inline const Control cmdSelect{"cmdSelect"};
+inline const Control cmdClose{"cmdClose"};
+} // namespace physical_properties
 
-class PhysicalPropertiesModel : public FormModel {
+// Everything the physical properties window shows, as the tool holds it.
+struct PhysicalPropertiesState {
+    int position = 0; // in the compound list
+    std::array<double, physical_properties::kRows> value{}; // internal units; the system temperature in kelvin
+    std::array<TextControl, physical_properties::kRows> txtPhysProp;
+    std::array<ListControl, physical_properties::kRows> cboPPUnits;
+    std::array<TextControl, 6> txtLTL, txtUTL;
+    TextControl txtMW, txtAF, txtSearch;
+    FrameControl frame{"Physical Properties"};
+    ButtonControl cmdSelect;
+    std::optional<FluidKind> fluid; // absent when opened for browsing
+};
+
+class PhysicalPropertiesModel : public FormModel, private PhysicalPropertiesState {
     Q_OBJECT
 
 public:
-    static constexpr int kRows = 9;
+    static constexpr int kRows = physical_properties::kRows;
     static constexpr const char* kTitle = "Physical Properties";
 
     PhysicalPropertiesModel(UserInterface& ui, std::vector<Compound> compounds, QObject* parent = nullptr);
 
+    const PhysicalPropertiesState& view() const { return *this; }
+
     void Form_Activate();
     void dbcComp_Click(int position);
-    void txtPhysProp_LostFocus(int row); // rows 6, 7 and 8 take typing
+    void txtSearch_Change(const std::string& text); // the first compound that starts with the text, or holds it
+    void txtPhysProp_LostFocus(int row);
     void setUnit(int row, UnitIndex unit);
     void cmdSelect_Click();
     void cmdClose_Click();
@@ -40,24 +71,19 @@ public:
 
     void GetPhysicalProperties(FluidKind fluid, Single temperature, const std::function<void()>& showModal);
 
+    void commit(const Control& field, const std::string& text) override;
+    void textEdited(const Control& field, const std::string& text) override;
+    void click(const Control& control) override;
+    void choose(const Control& list, int entry) override;
+
     static const char* rowCaption(int row);
     static const char* rowUnitTag(int row);
 
     const std::vector<Compound>& compounds() const { return compounds_; }
-    int position = 0;
-    std::array<double, kRows> value{};   // internal units; row 8 kelvin
-    std::array<std::string, kRows> txtPhysProp;
-    std::array<UnitIndex, kRows> cboPPUnits{};
-    std::array<bool, kRows> unitEnabled{};
-    std::array<PropertyShade, kRows> shade{};
-    std::array<std::string, 6> txtLTL, txtUTL;
-    std::string txtMW, txtAF;
-    std::string frameCaption = "Physical Properties";
-    std::optional<FluidKind> fluid; // absent when opened for browsing
-    bool selectEnabled = false;
 
 private:
     void showRow(int row);
+    void shadeRow(int row, FieldShade shade);
     void showDamaged();
     bool reportDamage(); // true, after its message, for a compound that cannot be used
     UserInterface& ui_;
