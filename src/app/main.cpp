@@ -3,6 +3,7 @@
 
 #include "frame/ui/auxiliary_dialogs.h"
 #include "frame/ui/frmMain.h"
+#include "frame/ui/program_icon.h"
 #include "forms/store/settings_store.h"
 #include "forms/ui/exception_barrier.h"
 #include "platform/single_instance.h"
@@ -33,6 +34,7 @@ int main(int argc, char** argv)
     QApplication::setApplicationName("Kestrova");
     QApplication::setOrganizationName("Kestrova");
     QApplication::setApplicationVersion(KESTROVA_VERSION);
+    QApplication::setWindowIcon(kestrova::programIcon());
 
     kestrova::SingleInstance instance("kestrova-" + qEnvironmentVariable("USER", "user"));
     if (instance.anotherIsRunning())

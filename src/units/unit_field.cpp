@@ -27,4 +27,23 @@ Single unitFieldValue(const FieldKind& kind, std::string_view text, UnitIndex un
     }
 }
 
+std::string maskSample(const char* mask)
+{
+    std::string sample = "-";
+    for (const char* c = mask; c && *c; ++c)
+        sample += (*c == '#' || *c == '0') ? '8' : *c;
+    return sample;
+}
+
+std::string widestText(const FieldKind& kind)
+{
+    std::string widest;
+    for (const char* mask : kind.masks) {
+        const std::string sample = mask ? maskSample(mask) : std::string();
+        if (sample.size() > widest.size())
+            widest = sample;
+    }
+    return widest;
+}
+
 } // namespace kestrova

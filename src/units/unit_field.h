@@ -19,6 +19,11 @@ struct FieldKind {
     std::array<const char*, 8> masks;
 };
 
+// The widest text a mask shows: its digits as eights, with a minus sign.
+std::string maskSample(const char* mask);
+// The widest of the kind's masks, which sets the least width of its field.
+std::string widestText(const FieldKind& kind);
+
 // One mask for every unit of a list.
 constexpr std::array<const char*, 8> sameMask(const char* mask)
 {

@@ -6,12 +6,15 @@
 #include "frame/ui/auxiliary_dialogs.h"
 #include "frame/ui/basPrint.h"
 #include "frame/model/company_info_model.h"
+#include "frame/ui/document_tools.h"
 #include "frame/ui/frmMain.h"
+#include "frame/ui/program_icon.h"
 #include "forms/store/project_file.h"
 #include "tools/orifice/model/orifice_model.h"
 #include "forms/model/scripted_user_interface.h"
 #include "tools/flow/ui/flow_dialogs.h"
 #include "tools/flow/model/gas_density_model.h"
+#include "tools/piping/model/minor_loss_store.h"
 #include "tools/piping/ui/piping_dialogs.h"
 #include "tools/piping/model/reducer_model.h"
 #include "tools/piping/model/roughness_model.h"
@@ -30,6 +33,9 @@
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMenuBar>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QRadioButton>
 #include <QListWidget>
 #include <QMessageBox>
@@ -44,6 +50,20 @@
 #include <cmath>
 
 using namespace kestrova;
+
+// Every field of a window shows its whole text and is no narrower than its
+// least width: the numbers are never cut off.
+void expectWholeTexts(QWidget& window)
+{
+    for (const QLineEdit* field : window.findChildren<QLineEdit*>()) {
+        if (!field->isVisibleTo(&window))
+            continue;
+        QVERIFY2(field->width() >= field->minimumWidth(), qPrintable(window.objectName() + " " + field->objectName()));
+        const int needed = field->fontMetrics().horizontalAdvance(field->text()) + 8;
+        QVERIFY2(field->width() >= needed, qPrintable(window.objectName() + " " + field->objectName() + " '" +
+                                                       field->text() + "'"));
+    }
+}
 
 // A frame with settings of its own in a folder of its own.
 struct FrameUnderTest {
@@ -76,7 +96,7 @@ private:
         });
     }
 
-    static QWidget* frontForm(frmMain& frame) { return frame.mdiArea()->activeSubWindow()->widget(); }
+    static QWidget* frontForm(frmMain& frame) { return OpenDocuments::formOf(*frame.mdiArea()->activeSubWindow()); }
 
     // A frame of its own, shown and in front, as at the start of the program.
     static bool shownAndActive(frmMain& frame)
@@ -195,6 +215,68 @@ private slots:
         QVERIFY(frame.close()); // nothing changed since the save: no question
     }
 
+    void menuLettersWinOverTheWindowsCaptions()
+    {
+        FrameUnderTest under;
+        QVERIFY(shownAndActive(under.frame));
+        frmMain& frame = under.frame;
+        QVERIFY(frame.openDocumentTool(1)); // its "&Flow Rate:" has the File menu's letter
+        QWidget* form = frontForm(frame);
+        auto* temperature = control<QLineEdit>(form, "txtData(3)");
+        temperature->setFocus();
+        QTRY_VERIFY(temperature->hasFocus());
+        QAction* file = frame.menuBar()->actions().front();
+        QCOMPARE(file->text(), QString("&File"));
+        // Qt hands a key that two shortcuts share to each in turn: every press opens the menu.
+        for (int press = 0; press < 3; ++press) {
+            QTest::keyClick(temperature, Qt::Key_F, Qt::AltModifier);
+            QTRY_COMPARE(frame.menuBar()->activeAction(), file);
+            QVERIFY(!control<QLineEdit>(form, "txtData(0)")->hasFocus());
+            while (QApplication::activePopupWidget())
+                QApplication::activePopupWidget()->close();
+            frame.menuBar()->setActiveAction(nullptr);
+            temperature->setFocus();
+            QTRY_VERIFY(temperature->hasFocus());
+        }
+    }
+
+    void documentWindowsFitTheScreenAndCutNoNumber()
+    {
+        FrameUnderTest under;
+        frmMain& frame = under.frame;
+        frame.resize(800, 600);
+        QVERIFY(shownAndActive(frame));
+        for (std::int16_t kind : {2, 1}) {
+            QVERIFY(frame.openDocumentTool(kind));
+            QMdiSubWindow* window = frame.mdiArea()->activeSubWindow();
+            QVERIFY(window->width() <= frame.mdiArea()->viewport()->width());
+            QVERIFY(window->height() <= frame.mdiArea()->viewport()->height());
+            QCOMPARE(window->windowIcon().pixmap(16).toImage(), programPicture(16).toImage()); // not the toolkit's logo
+            QWidget* form = frontForm(frame);
+            // Wider than the window, the form would scroll; at 800 it fits across.
+            QVERIFY(form->minimumSizeHint().width() <= 800);
+            QVERIFY(form->minimumSizeHint().height() <= 600);
+            expectWholeTexts(*form);
+        }
+        // A case with long numbers in every tab of the pressure drop window.
+        auto* model = dynamic_cast<PressureDropModel*>(frame.openDocumentTool(2));
+        QWidget* form = frontForm(frame);
+        model->SSTab1_Click(1);
+        typeAll(form, {{"txtData(11)", "30000"}, {"txtData(12)", "100"}, {"txtData(14)", "0.018"}, {"txtData(15)", "4.026"},
+                       {"txtData(17)", "20000"}, {"txtDisplay(4)", "28.97"}, {"txtDisplay(5)", "1"}, {"txtDisplay(6)", "1.4"}});
+        expectWholeTexts(*form);
+        // Maximised on a 1024 by 768 screen the window needs no scrolling.
+        frame.resize(1024, 768);
+        frame.mdiArea()->activeSubWindow()->showMaximized();
+        QTest::qWait(50);
+        auto* scroller = qobject_cast<QScrollArea*>(frame.mdiArea()->activeSubWindow()->widget());
+        QVERIFY(scroller);
+        QVERIFY(!scroller->horizontalScrollBar()->isVisible());
+        QVERIFY(!scroller->verticalScrollBar()->isVisible());
+        answerNextMessage(QMessageBox::No); // "Save data before closing?"
+        QVERIFY(frame.close());
+    }
+
     void filesOpenInTheToolOfTheirKind()
     {
         QTemporaryDir dir;
@@ -272,6 +354,70 @@ private slots:
         QVERIFY(!dialog.findChild<QPushButton*>("cmdSelect")->isEnabled()); // a viewer by itself
         dialog.findChild<QRadioButton*>("optASTMMaterial(2)")->click();
         QCOMPARE(dialog.findChild<QListWidget*>("lstMaterial(0)")->item(0)->text(), QString("Copper (ASTM B88)"));
+        // The marked cell: yellow text on blue.
+        QVERIFY(shownInFront(dialog));
+        grid->setFocus();
+        grid->setCurrentCell(0, 2);
+        QTest::qWait(20);
+        const QRect cell = grid->visualRect(grid->model()->index(0, 2));
+        const QImage picture = grid->viewport()->grab().toImage();
+        int blue = 0, yellow = 0;
+        for (int y = cell.top(); y <= cell.bottom(); ++y)
+            for (int x = cell.left(); x <= cell.right(); ++x) {
+                const QColor c = picture.pixelColor(x, y);
+                blue += c.blue() > 230 && c.red() < 40 && c.green() < 40;
+                yellow += c.red() > 200 && c.green() > 200 && c.blue() < 80;
+            }
+        QVERIFY(blue > cell.width() * cell.height() / 2); // the ground is blue
+        QVERIFY(yellow > 0);                             // and the text yellow
+    }
+
+    void everyDialogFitsTheScreenAndCutsNoNumber()
+    {
+        globalUnits() = GlobalUnits{};
+        minorLossStore() = MinorLossStore{};
+        ScriptedUserInterface ui;
+        const QString folder = QCoreApplication::applicationDirPath();
+        const auto check = [](QDialog& dialog) {
+            dialog.show();
+            QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+            QVERIFY2(dialog.width() <= 800 && dialog.height() <= 600, qPrintable(dialog.objectName()));
+            expectWholeTexts(dialog);
+        };
+        GasDensityModel density(ui);
+        density.Form_Load();
+        frmGasDensity densityWindow(density, ui, nullptr);
+        check(densityWindow);
+        CompressFactorModel z(ui, nullptr);
+        z.Form_Load();
+        frmCompressFactor zWindow(z, ui, nullptr);
+        check(zWindow);
+        HeatCapRatioModel ratio(ui);
+        frmHeatCapRatio ratioWindow(ratio, ui, nullptr);
+        check(ratioWindow);
+        FlowConversionsModel flow(nullptr);
+        flow.Form_Load();
+        frmFlowConversions flowWindow(flow, ui, nullptr);
+        check(flowWindow);
+        PipeModel pipes(ui, nullptr, folder);
+        pipes.Form_Load();
+        frmPipe pipesWindow(pipes, ui, nullptr);
+        check(pipesWindow);
+        RoughnessModel roughness(ui, nullptr);
+        roughness.Form_Load();
+        frmRoughness roughnessWindow(roughness, ui, nullptr);
+        check(roughnessWindow);
+        MinorLossesModel losses(ui);
+        losses.Form_Load();
+        frmMinorLosses lossesWindow(losses, ui, nullptr);
+        check(lossesWindow);
+        ReducerModel reducer(ReducerKind::Contraction, ui);
+        reducer.Form_Load();
+        frmReducer reducerWindow(reducer, ui, nullptr);
+        check(reducerWindow);
+        PhysicalPropertiesModel properties(ui, readCompounds(folder + "/compounds.sqlite"));
+        frmPhysicalProperties propertiesWindow(properties, ui, nullptr);
+        check(propertiesWindow);
     }
 
     static bool shownInFront(QWidget& dialog)
@@ -425,6 +571,8 @@ private slots:
         QTRY_COMPARE(QCursor::pos(), middle);
         QCOMPARE(ui.statusText, std::string("You must agree in order to use Kestrova"));
         QVERIFY(!form.findChild<QCheckBox*>("chkDontShow")->isChecked());
+        agree->click(); // the frame's own status text comes back at once
+        QCOMPARE(ui.statusText, std::string("Select a menu item"));
     }
 
     void aboutBoxShowsTheVersion()

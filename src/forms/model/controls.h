@@ -39,6 +39,7 @@ struct TextControl {
     KeyRule keys = KeyRule::Text;
     bool red = false; // the text in pure red, as a warning
     std::string toolTip;
+    std::string widest; // the widest text the field shows, which sets its least width
     bool operator==(const TextControl&) const = default;
 };
 
@@ -46,6 +47,7 @@ struct ListControl {
     int listIndex = 0;
     bool enabled = true;
     FieldShade shade = FieldShade::Normal;
+    bool tabStop = true;
     bool operator==(const ListControl&) const = default;
 };
 

@@ -137,8 +137,11 @@ protected:
         : FormModel(parent), ui_(ui), fields_(fields), resultField_(resultField), title_(std::move(title)),
           notComputed_(std::move(notComputed))
     {
-        for (std::size_t i = 0; i < N; ++i)
+        for (std::size_t i = 0; i < N; ++i) {
             txtData[i] = controlOf(fields_[i].role);
+            if (fields_[i].binding.kind)
+                txtData[i].widest = widestText(*fields_[i].binding.kind);
+        }
         controls().family("txtData", txtData);
         controls().family("cboUnits", cboUnits);
     }

@@ -5,8 +5,8 @@
 
 namespace kestrova {
 
-DocumentForm::DocumentForm(FormModel& model, UserInterface& ui, QWidget* parent, QSize least)
-    : QWidget(parent), ui_(ui), model_(model), view_(new FormView(model, ui, *this)), least_(least)
+DocumentForm::DocumentForm(FormModel& model, UserInterface& ui, QWidget* parent)
+    : QWidget(parent), ui_(ui), model_(model), view_(new FormView(model, ui, *this))
 {
     view_->setEnterAsTab(true);
     connect(&model, &FormModel::changed, this, [this] { view_->guard([this] { render(); }); });
@@ -16,11 +16,6 @@ DocumentForm::~DocumentForm()
 {
     disconnect(&model_, nullptr, this, nullptr);
     view_->detach();
-}
-
-QSize DocumentForm::sizeHint() const
-{
-    return QWidget::sizeHint().expandedTo(least_);
 }
 
 void DocumentForm::render()

@@ -8,6 +8,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFocusEvent>
+#include <QGridLayout>
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QLabel>
@@ -97,6 +98,17 @@ void selectSoon(QLineEdit* field)
     });
 }
 
+// A field is never narrower than the widest text it shows: a number is
+// never cut off, whatever the window's size.
+int leastWidth(const QLineEdit& edit, const TextControl& state)
+{
+    const QString widest = !state.widest.empty()             ? QString::fromStdString(state.widest)
+                           : state.keys == KeyRule::Text     ? QString(14, 'n')
+                           : state.keys == KeyRule::Digits   ? QString("88888")
+                                                             : QString("-88,888,888.88");
+    return edit.fontMetrics().horizontalAdvance(widest) + 14; // the frame and the inner margins
+}
+
 } // namespace
 
 FormView::FormView(FormModel& model, UserInterface& ui, QWidget& form)
@@ -116,11 +128,23 @@ Widget* FormView::bind(Widget* widget, const Control& control)
 QLineEdit* FormView::field(const Control& control)
 {
     auto* edit = bind(new QLineEdit(&form_), control);
-    edit->setMinimumWidth(110);
     connect(edit, &QLineEdit::textEdited, this,
             [this, control](const QString& text) { guard([&] { model_.textEdited(control, text.toStdString()); }); });
     fields_.push_back({control, edit, std::nullopt});
     return edit;
+}
+
+QLabel* FormView::message(const Control& control)
+{
+    auto* text = bind(new QLabel(&form_), control);
+    text->setWordWrap(true);
+    text->setFrameShape(QFrame::StyledPanel);
+    text->setFrameShadow(QFrame::Sunken);
+    text->setAutoFillBackground(true);
+    text->setMinimumHeight(2 * text->fontMetrics().lineSpacing() + 6);
+    text->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    messages_.push_back({control, text, std::nullopt});
+    return text;
 }
 
 QComboBox* FormView::list(const Control& control, const QStringList& entries)
@@ -138,9 +162,7 @@ QComboBox* FormView::unitList(const Control& control, const char* tag)
     QStringList entries;
     for (const std::string& unit : kestrova::unitList(tag))
         entries << QString::fromStdString(unit);
-    QComboBox* box = list(control, entries);
-    box->setFocusPolicy(Qt::ClickFocus);
-    return box;
+    return list(control, entries);
 }
 
 QLabel* FormView::label(const Control& control, const QString& caption)
@@ -303,15 +325,22 @@ bool FormView::filterEvent(QObject* watched, QEvent* event)
     return false;
 }
 
+void FormView::compactLayouts()
+{
+    for (QGridLayout* grid : form_.findChildren<QGridLayout*>()) {
+        grid->setVerticalSpacing(2);
+        grid->setHorizontalSpacing(4);
+        grid->setContentsMargins(6, 2, 6, 4);
+    }
+}
+
 void FormView::render()
 {
     rendering_ = true;
-    if (const std::string caption = model_.windowCaption(); !caption.empty()) {
-        form_.setWindowTitle(QString::fromStdString(caption));
-        if (QWidget* holder = form_.parentWidget())
-            holder->setWindowTitle(form_.windowTitle());
-    }
+    if (const std::string caption = model_.windowCaption(); !caption.empty())
+        form_.setWindowTitle(QString::fromStdString(caption)); // the window that holds the form follows its title
     renderFields();
+    renderMessages();
     renderLists();
     renderCaptions();
     renderButtons();
@@ -337,17 +366,38 @@ void FormView::renderFields()
         if (first || was.enabled != state->enabled)
             edit->setEnabled(state->enabled);
         if (first || was.locked != state->locked || was.tabStop != state->tabStop) {
+            // A locked field takes no typing; it is still reached by Tab where its tab stop is on.
             edit->setReadOnly(state->locked);
-            edit->setFocusPolicy(state->locked ? Qt::NoFocus : state->tabStop ? Qt::StrongFocus : Qt::ClickFocus);
+            edit->setFocusPolicy(state->tabStop ? Qt::StrongFocus : state->locked ? Qt::NoFocus : Qt::ClickFocus);
         }
         if (first || was.keys != state->keys)
             edit->setAlignment(state->keys == KeyRule::Text ? Qt::AlignLeft : Qt::AlignRight);
+        if (first || was.widest != state->widest || was.keys != state->keys)
+            edit->setMinimumWidth(leastWidth(*edit, *state));
         if (first || was.shade != state->shade || was.red != state->red)
             paint(edit, state->shade, form_, state->red);
         if (!state->toolTip.empty() && (first || was.toolTip != state->toolTip))
             edit->setToolTip(QString::fromStdString(state->toolTip));
         if (!typing)
             bound.shown = *state;
+    }
+}
+
+void FormView::renderMessages()
+{
+    for (auto& bound : messages_) {
+        const TextControl* state = model_.textOf(bound.control);
+        if (!state || bound.shown == *state)
+            continue;
+        bound.widget->setText(QString::fromStdString(state->text));
+        if (!bound.shown || bound.shown->shade != state->shade) {
+            QPalette p = bound.widget->palette();
+            p.setColor(QPalette::Window, baseColour(state->shade, form_));
+            bound.widget->setPalette(p);
+        }
+        if (!state->toolTip.empty())
+            bound.widget->setToolTip(QString::fromStdString(state->toolTip));
+        bound.shown = *state;
     }
 }
 
@@ -360,6 +410,7 @@ void FormView::renderLists()
         if (bound.widget->currentIndex() != state->listIndex)
             bound.widget->setCurrentIndex(state->listIndex);
         bound.widget->setEnabled(state->enabled);
+        bound.widget->setFocusPolicy(state->tabStop ? Qt::StrongFocus : Qt::ClickFocus);
         if (!bound.shown || bound.shown->shade != state->shade)
             paint(bound.widget, state->shade, form_);
         bound.shown = *state;

@@ -53,6 +53,9 @@ public:
     FormView(FormModel& model, UserInterface& ui, QWidget& form);
 
     QLineEdit* field(const Control& control);
+    // A text that the user only reads, wrapped over as many lines as it needs
+    // (a tool's message): a field's state, shown in a framed label.
+    QLabel* message(const Control& control);
     QComboBox* unitList(const Control& control, const char* tag);
     QComboBox* list(const Control& control, const QStringList& entries);
     QLabel* label(const Control& control, const QString& caption);
@@ -68,6 +71,10 @@ public:
     void setEnterAsTab(bool on) { enterAsTab_ = on; }
     // The arrow keys walk too: down as Tab, up as Shift+Tab.
     void setArrowsWalk(bool on) { arrowsWalk_ = on; }
+
+    // Every grid of the form, once laid out, takes close spacing: a row is a
+    // field's height and two pixels, so that a full form fits 800 by 600.
+    void compactLayouts();
 
     // Copies what changed onto the widgets; then the focus goes where the model asks.
     void render();
@@ -97,6 +104,7 @@ private:
     template <typename Widget>
     Widget* bind(Widget* widget, const Control& control);
     void renderFields();
+    void renderMessages();
     void renderLists();
     void renderCaptions();
     void renderButtons();
@@ -110,6 +118,7 @@ private:
     bool detached_ = false;
     std::map<const QObject*, Control> controls_;
     std::vector<Bound<QLineEdit, TextControl>> fields_;
+    std::vector<Bound<QLabel, TextControl>> messages_;
     std::vector<Bound<QComboBox, ListControl>> lists_;
     std::vector<Bound<QTabWidget, ListControl>> tabs_;
     std::vector<Bound<QLabel, LabelControl>> labels_;

@@ -1,5 +1,7 @@
 #include "frame/ui/auxiliary_dialogs.h"
 
+#include "frame/ui/program_icon.h"
+
 #include "frame/model/company_info_model.h"
 #include "forms/store/settings_store.h"
 #include "forms/model/user_interface.h"
@@ -30,28 +32,42 @@ namespace {
 
 QPixmap splashPicture()
 {
-    QPixmap picture(480, 280);
+    QPixmap picture(480, 300);
     picture.fill(QColor(0x1f, 0x3b, 0x5c));
     QPainter p(&picture);
+    p.setRenderHint(QPainter::Antialiasing);
     p.setPen(QColor(0x9f, 0xc5, 0xe8));
     for (int i = 0; i < 6; ++i)
-        p.drawLine(0, 200 + 8 * i, 480, 170 + 14 * i); // a hint of flow lines
-    p.setPen(Qt::white);
-    QFont title = p.font();
-    title.setPointSize(30);
-    title.setBold(true);
-    p.setFont(title);
-    p.drawText(QRect(0, 50, 480, 60), Qt::AlignCenter, ApplicationTexts::title());
-    QFont body = p.font();
-    body.setPointSize(11);
-    body.setBold(false);
-    p.setFont(body);
-    p.drawText(QRect(0, 110, 480, 24), Qt::AlignCenter, ApplicationTexts::description());
-    p.drawText(QRect(0, 136, 480, 24), Qt::AlignCenter, ApplicationTexts::version());
+        p.drawLine(0, 206 + 8 * i, 480, 176 + 14 * i); // a hint of flow lines
+    p.drawPixmap(24, 24, programPicture(64));
+    const auto line = [&p](int top, int height, int points, bool bold, const QString& text) {
+        QFont font = p.font();
+        font.setPointSize(points);
+        font.setBold(bold);
+        p.setFont(font);
+        p.setPen(Qt::white);
+        p.drawText(QRect(0, top, 480, height), Qt::AlignCenter, text);
+    };
+    line(20, 20, 10, false, ApplicationTexts::company());              // lblCompanyProduct
+    line(50, 56, 30, true, ApplicationTexts::title());                 // lblProductName
+    line(108, 22, 11, false, ApplicationTexts::description());         // lblDescription
+    line(132, 22, 11, false, ApplicationTexts::version());             // lblVersion
+    line(258, 16, 8, false, ApplicationTexts::copyright());            // lblCopyright
+    line(276, 16, 8, false, ApplicationTexts::trademarks());           // lblWarning
     return picture;
 }
 
 } // namespace
+
+QString ApplicationTexts::company()
+{
+    return QCoreApplication::organizationName();
+}
+
+QString ApplicationTexts::copyright()
+{
+    return QString::fromUtf8("Copyright \u00A9 2026 The Kestrova developers. All rights reserved.");
+}
 
 QString ApplicationTexts::title()
 {
@@ -70,7 +86,7 @@ QString ApplicationTexts::description()
 
 QString ApplicationTexts::trademarks()
 {
-    return "Kestrova is an engineering aid; its results must be checked by a qualified engineer.";
+    return "Kestrova is a trademark of the Kestrova developers.";
 }
 
 frmSplash::frmSplash() : QSplashScreen(splashPicture())
@@ -109,6 +125,7 @@ frmAbout::frmAbout(UserInterface& ui, QWidget* parent) : QDialog(parent), ui_(ui
     texts->addWidget(label("lblVersion", ApplicationTexts::version()));
     texts->addWidget(label("lblDescription", ApplicationTexts::description()));
     texts->addStretch();
+    texts->addWidget(label("lblCopyright", ApplicationTexts::copyright()));
     texts->addWidget(label("lblDisclaimer", ApplicationTexts::trademarks()));
     auto* layout = new QHBoxLayout(this);
     layout->addLayout(texts, 1);
@@ -263,6 +280,7 @@ void basCenterMouseCursor(const QWidget& window)
 void frmReadDisclaimer::cmdAgree_Click()
 {
     agreed_ = true;
+    ui_.setStatusText("Select a menu item"); // the frame's own text, not the disclaimer's any more
     store_.save("Settings", "Disclaimer Show", showFlag_ ? "True" : "False");
     store_.sync();
     accept();

@@ -17,13 +17,16 @@ class SettingsStore;
 
 // The application's own texts, shown alike by the splash and the about box.
 struct ApplicationTexts {
+    static QString company();
     static QString title();
     static QString version(); // "Version " and major.minor.revision
     static QString description();
+    static QString copyright();
     static QString trademarks();
 };
 
-// frmSplash: the application's name, version and description.
+// frmSplash: the company, the application's name, version and description,
+// its copyright and trademarks lines.
 class frmSplash : public QSplashScreen {
 public:
     frmSplash();

@@ -1,13 +1,14 @@
 #include "frame/ui/document_tools.h"
 
+#include "frame/ui/program_icon.h"
 #include "tools/orifice/model/orifice_model.h"
 #include "tools/orifice/ui/frmOrificePlates.h"
 #include "tools/pressure_drop/model/pressure_drop_model.h"
 #include "tools/pressure_drop/ui/frmPressureDrop.h"
 
-#include <QIcon>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QScrollArea>
 
 namespace kestrova {
 
@@ -69,16 +70,38 @@ DocumentTool* OpenDocuments::show(Slot& slot)
         slot.model = slot.kind->makeModel(ui_);
         QWidget* form = slot.kind->makeWindow(*slot.model, ui_);
         slot.model->Form_Load();
-        slot.window = area_.addSubWindow(form);
+        // The form scrolls inside its window when the window is smaller than
+        // it, so that nothing is ever squeezed or cut off.
+        auto* scroller = new QScrollArea;
+        scroller->setObjectName("formScroller");
+        scroller->setWidget(form);
+        scroller->setWidgetResizable(true);
+        scroller->setFrameShape(QFrame::NoFrame);
+        slot.window = area_.addSubWindow(scroller);
         slot.window->setAttribute(Qt::WA_DeleteOnClose);
-        slot.window->setWindowIcon(QIcon());
+        slot.window->setWindowIcon(programIcon());
+        slot.window->setWindowTitle(form->windowTitle());
+        QObject::connect(form, &QWidget::windowTitleChanged, slot.window, &QWidget::setWindowTitle);
         slot.window->installEventFilter(&watcher_);
-        slot.window->resize(form->sizeHint());
+        slot.window->resize(defaultSize(*slot.window, *form));
     }
     slot.window->show();
     area_.setActiveSubWindow(slot.window);
-    slot.window->widget()->setFocus();
+    formOf(*slot.window)->setFocus();
     return slot.model.get();
+}
+
+// The window's size at its opening: the form's own, within the area.
+QSize OpenDocuments::defaultSize(const QMdiSubWindow& window, const QWidget& form) const
+{
+    const QSize frame = window.size() - window.widget()->size(); // the title bar and the borders
+    return (form.sizeHint() + frame).boundedTo(area_.viewport()->size()).expandedTo(QSize(200, 150));
+}
+
+QWidget* OpenDocuments::formOf(const QMdiSubWindow& window)
+{
+    const auto* scroller = qobject_cast<const QScrollArea*>(window.widget());
+    return scroller ? scroller->widget() : window.widget();
 }
 
 DocumentTool* OpenDocuments::active() const

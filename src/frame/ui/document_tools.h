@@ -16,6 +16,7 @@
 class QMdiArea;
 class QMdiSubWindow;
 class QObject;
+class QSize;
 class QWidget;
 
 namespace kestrova {
@@ -50,6 +51,8 @@ public:
 
     // The tool whose window is in front, or whose window this is.
     DocumentTool* active() const;
+    // The tool's form in its window.
+    static QWidget* formOf(const QMdiSubWindow& window);
     DocumentTool* ofWindow(const QObject* subWindow) const;
 
 private:
@@ -59,6 +62,7 @@ private:
         QPointer<QMdiSubWindow> window;
     };
     DocumentTool* show(Slot& slot);
+    QSize defaultSize(const QMdiSubWindow& window, const QWidget& form) const;
 
     QMdiArea& area_;
     UserInterface& ui_;

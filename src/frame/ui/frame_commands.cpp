@@ -4,6 +4,8 @@
 #include "frame/model/recent_files.h"
 
 #include <QAction>
+#include <QApplication>
+#include <QKeyEvent>
 #include <QDateTime>
 #include <QIcon>
 #include <QKeySequence>
@@ -148,6 +150,7 @@ FrameCommands::FrameCommands(QMainWindow& frame, UserInterface& ui, Run run)
     buildMenus();
     buildToolbar();
     buildStatusBar();
+    qApp->installEventFilter(this);
 }
 
 QAction* FrameCommands::addAction(const QString& name, const QString& caption)
@@ -194,6 +197,22 @@ QString FrameCommands::plainCaption(const QString& name) const
 {
     const QAction* act = action(name);
     return act ? act->text().remove('&') : name;
+}
+
+bool FrameCommands::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() != QEvent::Shortcut || watched == frame_.menuBar())
+        return QObject::eventFilter(watched, event);
+    const auto* widget = qobject_cast<QWidget*>(watched);
+    if (!widget || widget->window() != &frame_)
+        return QObject::eventFilter(watched, event); // a dialog's own captions keep their letters
+    const QKeySequence key = static_cast<QShortcutEvent*>(event)->key();
+    for (QAction* menu : frame_.menuBar()->actions())
+        if (menu->isVisible() && menu->isEnabled() && QKeySequence::mnemonic(menu->text()) == key) {
+            frame_.menuBar()->setActiveAction(menu);
+            return true;
+        }
+    return QObject::eventFilter(watched, event);
 }
 
 void FrameCommands::buildMenus()

@@ -11,6 +11,7 @@
 #include <map>
 
 class QAction;
+class QEvent;
 class QLabel;
 class QMainWindow;
 class QToolBar;
@@ -36,6 +37,11 @@ public:
     // The status panel's text, written only when it changes.
     void setStatusText(const QString& text);
     QString statusText() const;
+
+protected:
+    // Alt and a menu's letter opens the frame's menu even where a window in
+    // the frame has a caption with the same letter: menus win.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void buildActions();

@@ -1,5 +1,7 @@
 #include "frame/ui/frmMain.h"
 
+#include "frame/ui/program_icon.h"
+
 #include "forms/store/settings_store.h"
 #include "forms/ui/exception_barrier.h"
 #include "frame/model/company_info_model.h"
@@ -46,6 +48,7 @@ frmMain::frmMain(SettingsStore& store, QWidget* parent)
 {
     setObjectName("frmMain");
     setWindowTitle("Kestrova - Hydraulic Calculation Workbench");
+    setWindowIcon(programIcon());
     mdi_ = new QMdiArea(this);
     mdi_->setObjectName("frmMainClient");
     mdi_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
@@ -318,9 +321,10 @@ static void offerPrinting(QPrintDialog& dialog)
 void frmMain::mnuFilePrintScreen_Click()
 {
     QMdiSubWindow* active = mdi_->activeSubWindow();
-    if (!active || !active->widget())
+    QWidget* form = active ? OpenDocuments::formOf(*active) : nullptr;
+    if (!form)
         return;
-    const QPixmap picture = captureForm(*active->widget()); // before the dialog can stand in it
+    const QPixmap picture = captureForm(*form); // before the dialog can stand in it
     QPrintDialog dialog(&printer_, this);
     dialog.setWindowTitle("Print");
     offerPrinting(dialog);
@@ -333,7 +337,7 @@ void frmMain::mnuFilePrintScreen_Click()
         QEventLoop repaint; // let the dialog's place on screen be repainted
         QTimer::singleShot(200, &repaint, &QEventLoop::quit);
         repaint.exec();
-        printed = printCopies(printer_, picture, copies, active->widget()->logicalDpiX());
+        printed = printCopies(printer_, picture, copies, form->logicalDpiX());
     }
     if (!printed) {
         ui_.ask("Kestrova", "The printer could not be started.", MessageIcon::Stop, MessageButtons::Ok,

@@ -37,7 +37,9 @@ TEST_F(FlowConversionsTest, StandardGasVolumeToMassAndBack)
     EXPECT_FALSE(form().txtData[1].locked);
     EXPECT_TRUE(form().txtData[7].locked);
     EXPECT_EQ(form().txtData[7].shade, FieldShade::Tinted);
+    EXPECT_TRUE(form().txtData[7].tabStop); // reached by Tab, though it takes no typing
     EXPECT_FALSE(form().txtData[6].enabled);
+    EXPECT_FALSE(form().txtData[6].tabStop);
     type(7, "123"); // a locked field takes nothing
     EXPECT_EQ(form().txtData[7].text, "");
     type(1, "16.04");

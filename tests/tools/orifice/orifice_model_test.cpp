@@ -128,6 +128,30 @@ TEST_F(OrificeToolTest, ComputeChoicesSolveForTheirQuantityAndCarryOverTabs)
     EXPECT_EQ(tool.view().meterTap[0], 1);
 }
 
+TEST_F(OrificeToolTest, OnlyTheTabInFrontIsInTheTabOrder)
+{
+    // Liquid in front: its inputs, lists and options are tab stops; the
+    // solved flow is not; nothing of the gas tab is.
+    const OrificeState& form = tool.view();
+    EXPECT_TRUE(form.txtData[orifice::LiquidDifferentialPressure].tabStop);
+    EXPECT_FALSE(form.txtData[orifice::LiquidFlow].tabStop);
+    EXPECT_FALSE(form.txtData[orifice::LiquidPipeVelocity].tabStop); // a result
+    EXPECT_TRUE(form.cboUnits[orifice::LiquidFlow].tabStop);         // the solved quantity's list stays usable
+    EXPECT_FALSE(form.txtData[orifice::GasDifferentialPressure].tabStop);
+    EXPECT_FALSE(form.cboUnits[orifice::GasDensity].tabStop);
+    EXPECT_FALSE(form.optCompute[3].tabStop);
+    EXPECT_FALSE(form.txtDisplay[orifice::HeatCapacityRatio].tabStop);
+    tool.SSTab1_Click(orifice::GasTab);
+    EXPECT_FALSE(form.txtData[orifice::LiquidDifferentialPressure].tabStop);
+    EXPECT_FALSE(form.cboPipeMaterial[0].tabStop);
+    EXPECT_TRUE(form.txtData[orifice::InletPressure].tabStop);
+    EXPECT_TRUE(form.cboPipeMaterial[1].tabStop);
+    EXPECT_TRUE(form.optMeterTap[4].tabStop);
+    EXPECT_TRUE(form.txtDisplay[orifice::HeatCapacityRatio].tabStop);
+    EXPECT_TRUE(form.txtProject[1].tabStop);
+    EXPECT_FALSE(form.txtProject[0].tabStop);
+}
+
 TEST_F(OrificeToolTest, FailuresReachTheMessageBoxesAsTheRulesSay)
 {
     // A gas case in flow mode with no pipe ID yet: the gas box is emptied and

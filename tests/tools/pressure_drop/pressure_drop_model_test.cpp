@@ -442,6 +442,14 @@ TEST_F(PressureDropTest, TabChangeMovesTheTabOrder)
     tool.SSTab1_Click(1);
     EXPECT_TRUE(tool.view().txtDisplay[4].tabStop);
     EXPECT_TRUE(tool.view().txtData[43].tabStop);
+    // No option is in the tab order, a clicked one neither; Tab walks the fields, not their unit lists.
+    tool.optCalcType_Click(1);
+    tool.optCrossSection_Click(4);
+    for (const auto* options : {&tool.view().optCrossSection[0], &tool.view().optCalcType[0], &tool.view().optOrientation[0]})
+        EXPECT_FALSE(options->tabStop);
+    EXPECT_FALSE(tool.view().optCalcType[1].tabStop);
+    EXPECT_FALSE(tool.view().optCrossSection[4].tabStop);
+    EXPECT_FALSE(tool.view().cboUnits[11].tabStop);
 }
 
 TEST_F(PressureDropTest, WaterFromThePropertiesToolGivesTheSameTwoPhaseLineAsWaterTyped)

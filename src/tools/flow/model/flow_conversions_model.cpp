@@ -94,7 +94,7 @@ void FlowConversionsModel::showChoices()
         const bool output = i == roles.output;
         field.locked = !input;
         field.enabled = input || output;
-        field.tabStop = input;
+        field.tabStop = input || output; // the result is reached by Tab, though it takes no typing
         field.keys = KeyRule::SignedNumber;
         field.shade = output ? FieldShade::Tinted : input ? FieldShade::Normal : FieldShade::Disabled;
     }

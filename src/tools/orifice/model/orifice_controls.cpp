@@ -77,10 +77,16 @@ const FieldBinding<OrificeData>& orificeField(int index)
 
 OrificeModel::OrificeModel(UserInterface& ui, QObject* parent) : FormModel(parent), ui_(ui)
 {
-    for (int i = 0; i < kFields; ++i)
+    for (int i = 0; i < kFields; ++i) {
         txtData[static_cast<size_t>(i)] = controlOf(isResultField(i) ? kResult : kInput);
-    for (int i = 0; i < kDisplays; ++i)
+        txtData[static_cast<size_t>(i)].widest = widestText(*orificeField(i).kind);
+    }
+    for (int i = 0; i < kDisplays; ++i) {
         txtDisplay[static_cast<size_t>(i)] = controlOf(i == HeatCapacityRatio ? kInput : kResult);
+        const bool reynolds = i == LiquidPipeReynolds || i == LiquidOrificeReynolds || i == GasPipeReynolds ||
+                              i == GasOrificeReynolds;
+        txtDisplay[static_cast<size_t>(i)].widest = maskSample(reynolds ? "#,###,###,###" : "##0.0000");
+    }
     txtErrorLiquid = txtErrorGas = controlOf(kMessage);
     for (auto* texts : {&txtProject, &txtTag})
         for (TextControl& text : *texts)
@@ -112,26 +118,36 @@ bool OrificeModel::fieldLocked(int field) const
 
 // The options, the materials and the tab show the choices; the solved
 // quantity of each tab is locked and tinted, its unit list tinted but usable.
+// Only the tab in front has its fields, lists and options in the tab order.
 void OrificeModel::showChoices()
 {
     SSTab1.listIndex = tab;
     for (int t = 0; t < 2; ++t) {
         const auto i = static_cast<size_t>(t);
+        const bool shown = t == tab;
         for (int position = 0; position < 3; ++position) {
             const auto option = static_cast<size_t>(3 * t + position);
             optCompute[option].checked = position == compute[i];
             optMeterTap[option].checked = position == meterTap[i];
+            optCompute[option].tabStop = optMeterTap[option].tabStop = shown;
             const int field = kFirstField[i] + position;
             const bool locked = fieldLocked(field);
             TextControl& text = txtData[static_cast<size_t>(field)];
             text.locked = locked;
-            text.tabStop = !locked;
             text.shade = locked ? FieldShade::Tinted : FieldShade::Normal;
             cboUnits[static_cast<size_t>(field)].shade = text.shade;
         }
+        for (int field = kFirstField[i]; field < (t == LiquidTab ? GasFlow : kFields); ++field) {
+            TextControl& text = txtData[static_cast<size_t>(field)];
+            text.tabStop = shown && !text.locked;
+            cboUnits[static_cast<size_t>(field)].tabStop = shown;
+        }
         cboElementMaterial[i].listIndex = elementMaterial[i];
         cboPipeMaterial[i].listIndex = pipeMaterial[i];
+        cboElementMaterial[i].tabStop = cboPipeMaterial[i].tabStop = shown;
+        txtProject[i].tabStop = txtTag[i].tabStop = shown;
     }
+    txtDisplay[HeatCapacityRatio].tabStop = tab == GasTab;
 }
 
 // --- the window's way in -----------------------------------------------------------------

@@ -23,7 +23,7 @@ using namespace orifice;
 // A sketch of the plate in its pipe with the two pressure taps of the style.
 class TapSketch : public QWidget {
 public:
-    explicit TapSketch(QWidget* parent = nullptr) : QWidget(parent) { setMinimumSize(150, 70); }
+    explicit TapSketch(QWidget* parent = nullptr) : QWidget(parent) { setMinimumSize(110, 44); }
     void setTap(int tap)
     {
         tap_ = tap;
@@ -55,7 +55,7 @@ private:
 };
 
 frmOrificePlates::frmOrificePlates(OrificeModel& model, UserInterface& ui, QWidget* parent)
-    : DocumentForm(model, ui, parent, QSize(940, 600)), model_(model)
+    : DocumentForm(model, ui, parent), model_(model)
 {
     setObjectName("frmOrificePlates");
     setWindowTitle(OrificeModel::kTitle);
@@ -68,6 +68,7 @@ frmOrificePlates::frmOrificePlates(OrificeModel& model, UserInterface& ui, QWidg
     setMouseTracking(true);
     view().status(this, "Orifice Plate Pressure Drop Calculations");
     view().status(tabs, "Orifice Plate Pressure Drop Calculations");
+    compactLayouts();
     render();
 }
 
@@ -103,7 +104,7 @@ QLineEdit* frmOrificePlates::displayRow(QGridLayout* grid, int row, const QStrin
     auto* caption = new QLabel(label);
     caption->setBuddy(edit);
     grid->addWidget(caption, row, 0);
-    grid->addWidget(edit, row, 1);
+    grid->addWidget(edit, row, 1, 1, 2); // a plain number has no unit list: it takes that column too
     if (button)
         grid->addWidget(button, row, 3);
     return edit;
@@ -167,12 +168,11 @@ QWidget* frmOrificePlates::optionFrames(int t)
         option->setToolTip(computeTips[i]);
         c->addWidget(option);
     }
+    // The sketch of the taps under their options, so that both frames stand side by side.
     QGroupBox* taps = frame(gas ? 6 : 2, "Pressure Taps", "Pressure Tap Style");
-    auto* tp = new QHBoxLayout(taps);
-    auto* tapOptions = new QVBoxLayout;
+    auto* tp = new QVBoxLayout(taps);
     for (int i = 0; i < 3; ++i)
-        tapOptions->addWidget(view().option(optMeterTap(3 * t + i), OrificeModel::tapCaptions()[static_cast<size_t>(i)]));
-    tp->addLayout(tapOptions);
+        tp->addWidget(view().option(optMeterTap(3 * t + i), OrificeModel::tapCaptions()[static_cast<size_t>(i)]));
     auto* sketch = new TapSketch;
     sketch->setObjectName(QString("imgMeter(%1)").arg(t));
     imgMeter_[static_cast<size_t>(t)] = sketch;
@@ -237,7 +237,7 @@ QGroupBox* frmOrificePlates::outputFrame(int t)
     fieldRow(out, row++, "Velocity, D:", p + 7);
     fieldRow(out, row++, "Velocity, d:", p + 8);
     fieldRow(out, row++, "Pressure Loss:", p + 9)->setToolTip("Permanent Pressure Loss");
-    QLineEdit* message = view().field(gas ? txtErrorGas : txtErrorLiquid);
+    QLabel* message = view().message(gas ? txtErrorGas : txtErrorLiquid); // a long warning wraps
     message->setToolTip("Computation Errors");
     out->addWidget(new QLabel("Message:"), row, 0);
     out->addWidget(message, row, 1, 1, 3);
@@ -282,6 +282,8 @@ QWidget* frmOrificePlates::buildTab(int t)
     right->addStretch();
     auto* page = new QWidget;
     auto* layout = new QHBoxLayout(page);
+    layout->setContentsMargins(4, 4, 4, 4);
+    layout->setSpacing(4);
     layout->addLayout(left, 1);
     layout->addLayout(right, 1);
     return page;

@@ -48,7 +48,7 @@ frmPipe::frmPipe(PipeModel& model, UserInterface& ui, QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(tabs);
     layout->addLayout(buttons);
-    resize(900, 600);
+    resize(780, 560);
 }
 
 // The selected cells of the grid in front, as text, onto the clipboard.
@@ -112,7 +112,13 @@ QTableWidget* frmPipe::buildGrid(int c)
     grid->verticalHeader()->setDefaultSectionSize(grid->fontMetrics().height() + 8);
     grid->horizontalHeader()->setStretchLastSection(true);
     grid->horizontalHeader()->setDefaultAlignment(Qt::AlignCenter);
-    grid->setStyleSheet("QTableWidget::item:focus { background-color: rgb(255, 255, 0); color: rgb(0, 0, 255); }");
+    // The marked cell: yellow text on blue.
+    QPalette marked = grid->palette();
+    for (QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
+        marked.setColor(group, QPalette::Highlight, QColor(0, 0, 255));
+        marked.setColor(group, QPalette::HighlightedText, QColor(255, 255, 0));
+    }
+    grid->setPalette(marked);
     view().status(grid, "Pipe Data");
     connect(grid, &QTableWidget::currentCellChanged, this, [this, c](int row, int column) {
         if (!drawing_)
@@ -322,6 +328,7 @@ frmMinorLosses::frmMinorLosses(MinorLossesModel& model, UserInterface& ui, QWidg
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(top);
     layout->addLayout(buttons);
+    view().compactLayouts();
 }
 
 // The fittings on three tabs, each group of like fittings in a frame of its own.
@@ -353,7 +360,6 @@ QTabWidget* frmMinorLosses::fittingTabs()
         }
         auto* layout = static_cast<QGridLayout*>(group->layout());
         QLineEdit* quantity = view().field(minor_losses::txtQuantity(n));
-        quantity->setMinimumWidth(60);
         quantity->setMaximumWidth(70);
         quantity->setProperty("fittingGroup", groupName);
         const int row = layout->rowCount();
@@ -361,8 +367,9 @@ QTabWidget* frmMinorLosses::fittingTabs()
         layout->addWidget(quantity, row, 1);
     }
     QGridLayout* elbows = pages["Elbows"];
-    elbows->addWidget(new QLabel("** Note:  Use R/D=1.5 values for R/D=5 bends for 45°, 90°, and 180° elbows. **"),
-                      elbows->rowCount(), 0);
+    auto* note = new QLabel("** Note:  Use R/D=1.5 values for R/D=5 bends for 45°, 90°, and 180° elbows. **");
+    note->setWordWrap(true);
+    elbows->addWidget(note, elbows->rowCount(), 0);
     for (auto& [name, page] : pages)
         page->setRowStretch(page->rowCount(), 1);
     return tabs;

@@ -48,6 +48,22 @@ FieldRole displayRole(int display)
 
 constexpr FieldRole kTextRole{true, KeyRule::Text, FieldShade::Normal};
 
+// The widest text of each plain display, from its mask or its words.
+std::string displaySample(int display)
+{
+    switch (display) {
+    case LiquidK1: case GasK1: return maskSample("#,###,##0");
+    case LiquidK2: case LiquidK3: case GasK2: case GasK3: return maskSample("##0.00");
+    case LiquidReynolds: case GasReynolds: return maskSample("#,###,###");
+    case TwoPhaseLiquidReynolds: case TwoPhaseVaporReynolds: return maskSample("###,###,###");
+    case LiquidFriction: case GasFriction: return maskSample("0.00000");
+    case InletMach: case OutletMach: return maskSample("#0.0000");
+    case LiquidRegime: case TwoPhaseLiquidRegime: case TwoPhaseVaporRegime: return "Turbulent";
+    case TwoPhaseRegime: return "Dispersed Bubble";
+    default: return "-8888.88888"; // molecular weight, Z, k as typed
+    }
+}
+
 const std::map<int, const char*>& tableTips()
 {
     static const std::map<int, const char*> tips{
@@ -68,10 +84,15 @@ const std::map<int, const char*>& tableTips()
 
 PressureDropModel::PressureDropModel(UserInterface& ui, QObject* parent) : FormModel(parent), ui_(ui)
 {
-    for (int i = 0; i < kPressureDropFields; ++i)
+    for (int i = 0; i < kPressureDropFields; ++i) {
         txtData[static_cast<size_t>(i)] = controlOf(fieldRole(i));
-    for (int i = 0; i < kDisplays; ++i)
+        txtData[static_cast<size_t>(i)].widest = widestText(*pressureDropField(i).kind);
+        cboUnits[static_cast<size_t>(i)].tabStop = false; // Tab walks the fields, not their units
+    }
+    for (int i = 0; i < kDisplays; ++i) {
         txtDisplay[static_cast<size_t>(i)] = controlOf(displayRole(i));
+        txtDisplay[static_cast<size_t>(i)].widest = displaySample(i);
+    }
     for (auto* texts : {&txtProject, &txtTag})
         for (TextControl& text : *texts)
             text = controlOf(kTextRole);

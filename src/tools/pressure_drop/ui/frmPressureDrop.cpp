@@ -38,6 +38,8 @@ QWidget* tabPage(QWidget* left, QWidget* right)
 {
     auto* page = new QWidget;
     auto* layout = new QHBoxLayout(page);
+    layout->setContentsMargins(4, 4, 4, 4);
+    layout->setSpacing(4);
     layout->addWidget(left, 1);
     layout->addWidget(right, 1);
     return page;
@@ -57,7 +59,7 @@ QWidget* buttonRow(std::initializer_list<QWidget*> widgets)
 } // namespace
 
 frmPressureDrop::frmPressureDrop(PressureDropModel& model, UserInterface& ui, QWidget* parent)
-    : DocumentForm(model, ui, parent, QSize(900, 560))
+    : DocumentForm(model, ui, parent)
 {
     setObjectName("frmPressureDrop");
     setWindowTitle(PressureDropModel::kTitle);
@@ -72,6 +74,7 @@ frmPressureDrop::frmPressureDrop(PressureDropModel& model, UserInterface& ui, QW
     layout->addWidget(tabs);
     setMouseTracking(true);
     view().status(this, PressureDropModel::kStatusTitle);
+    compactLayouts();
     render();
 }
 
@@ -108,7 +111,7 @@ void frmPressureDrop::displayRow(QGridLayout* grid, int row, const QString& labe
     auto* caption = new QLabel(label);
     caption->setBuddy(edit);
     grid->addWidget(caption, row, 0);
-    grid->addWidget(edit, row, 1);
+    grid->addWidget(edit, row, 1, 1, 2); // a plain number has no unit list: it takes that column too
     if (button >= 0)
         grid->addWidget(tableButton(button), row, 3);
 }
@@ -119,7 +122,6 @@ void frmPressureDrop::kRow(QGridLayout* grid, int row, int labelIndex, const std
     auto* box = new QHBoxLayout;
     for (int k : fields) {
         QLineEdit* edit = view().field(txtDisplay(k));
-        edit->setMinimumWidth(50);
         box->addWidget(edit);
     }
     grid->addWidget(caption, row, 0);
@@ -127,23 +129,29 @@ void frmPressureDrop::kRow(QGridLayout* grid, int row, int labelIndex, const std
     grid->addWidget(tableButton(button), row, 3);
 }
 
-// The fluid's name and the button that takes it from the physical properties tool.
+// The fluid's name, and below it the button that takes it from the
+// physical properties tool.
 void frmPressureDrop::fluidRow(QGridLayout* grid, int row, int tab)
 {
     QLineEdit* name = view().field(tab == LiquidTab ? txtLiquid : txtGas);
     auto* caption = new QLabel("Fluid:");
     caption->setBuddy(name);
     grid->addWidget(caption, row, 0);
-    grid->addWidget(name, row, 1, 1, 2);
-    grid->addWidget(view().button(cmdProperties(tab), "Get Physical Properties"), row, 3);
+    grid->addWidget(name, row, 1, 1, 3);
+    grid->addWidget(view().button(cmdProperties(tab), "Get Physical Properties"), row + 1, 1, 1, 3);
 }
 
-void frmPressureDrop::projectRows(QGridLayout* grid, int row, int tab)
+// The project and tag of the case, beside the reset button.
+QWidget* frmPressureDrop::projectRows(int tab)
 {
-    grid->addWidget(new QLabel("Project:"), row, 0);
-    grid->addWidget(view().field(txtProject(tab)), row, 1, 1, 3);
-    grid->addWidget(new QLabel("Tag/Line No.:"), row + 1, 0);
-    grid->addWidget(view().field(txtTag(tab)), row + 1, 1, 1, 3);
+    auto* holder = new QWidget;
+    auto* grid = new QGridLayout(holder);
+    grid->addWidget(new QLabel("Project:"), 0, 0);
+    grid->addWidget(view().field(txtProject(tab)), 0, 1);
+    grid->addWidget(new QLabel("Tag/Line No.:"), 1, 0);
+    grid->addWidget(view().field(txtTag(tab)), 1, 1);
+    grid->addWidget(resetButton(tab), 2, 1, Qt::AlignRight);
+    return holder;
 }
 
 QWidget* frmPressureDrop::optionRow(const char* family, int first, const std::array<const char*, 3>& captions,
@@ -175,7 +183,6 @@ QWidget* frmPressureDrop::buildLiquidTab()
     fieldRow(f, 2, "Viscosity (at T && P):", LiquidViscosity);
     fieldRow(f, 3, "Flowing Temperature:", LiquidTemperature);
     fluidRow(f, 4, LiquidTab);
-    projectRows(f, 5, LiquidTab);
 
     QGroupBox* pipe = frame(1, "Pipe/Tube Data");
     auto* p = new QGridLayout(pipe);
@@ -195,7 +202,7 @@ QWidget* frmPressureDrop::buildLiquidTab()
     displayRow(r, 2, "Reynold's Number (Re):", LiquidReynolds);
     displayRow(r, 3, "Fluid Flow Regime:", LiquidRegime);
     displayRow(r, 4, "Friction Factor (fd):", LiquidFriction);
-    return tabPage(column({fluid, pipe}), column({results, buttonRow({resetButton(LiquidTab)})}));
+    return tabPage(column({fluid, pipe}), column({results, projectRows(LiquidTab)}));
 }
 
 QWidget* frmPressureDrop::buildGasTab()
@@ -210,7 +217,6 @@ QWidget* frmPressureDrop::buildGasTab()
     displayRow(f, 5, "Compressibility, Z:", Compressibility, CompressibilityTool);
     displayRow(f, 6, "k, Cp/Cv:", HeatCapacityRatio, HeatCapacityRatioTool);
     fluidRow(f, 7, GasTab);
-    projectRows(f, 8, GasTab);
 
     auto* calcType = new QGroupBox("Calculation Type");
     calcType->setObjectName("Frame2(0)");
@@ -243,7 +249,7 @@ QWidget* frmPressureDrop::buildGasTab()
     displayRow(r, 9, "Friction Factor (fd):", GasFriction);
     displayRow(r, 10, "Mach Number, Inlet:", InletMach);
     displayRow(r, 11, "Mach Number, Outlet:", OutletMach);
-    return tabPage(column({fluid, calcType, pipe}), column({results, buttonRow({resetButton(GasTab)})}));
+    return tabPage(column({fluid, pipe}), column({calcType, results, projectRows(GasTab)}));
 }
 
 QWidget* frmPressureDrop::buildTwoPhaseTab()
@@ -266,7 +272,6 @@ QWidget* frmPressureDrop::buildTwoPhaseTab()
     QPushButton* gasProps = view().button(cmdProperties(3), "Vapor Properties");
     gasProps->setToolTip("Get Physical Properties");
     f->addWidget(buttonRow({liquidProps, gasProps}), 11, 0, 1, 4);
-    projectRows(f, 12, TwoPhaseTab);
 
     QGroupBox* pipe = frame(7, "Pipe/Tube Data");
     auto* p = new QGridLayout(pipe);
@@ -294,7 +299,7 @@ QWidget* frmPressureDrop::buildTwoPhaseTab()
     displayRow(r, 8, "Liquid Flow Regime:", TwoPhaseLiquidRegime);
     displayRow(r, 9, "Vapor Flow Regime:", TwoPhaseVaporRegime);
     displayRow(r, 10, "Flow Regime:", TwoPhaseRegime, RegimeMap);
-    return tabPage(column({fluid}), column({pipe, results, buttonRow({resetButton(TwoPhaseTab)})}));
+    return tabPage(column({fluid, projectRows(TwoPhaseTab)}), column({pipe, results}));
 }
 
 } // namespace kestrova

@@ -32,7 +32,7 @@ private:
     void displayRow(QGridLayout* grid, int row, const QString& label, int display, int button = -1);
     void kRow(QGridLayout* grid, int row, int labelIndex, const std::array<int, 3>& fields, int button);
     void fluidRow(QGridLayout* grid, int row, int tab);
-    void projectRows(QGridLayout* grid, int row, int tab);
+    QWidget* projectRows(int tab);
     QPushButton* tableButton(int index);
     QWidget* optionRow(const char* family, int first, const std::array<const char*, 3>& captions,
                        const std::array<const char*, 3>& statuses, int count = 3);

@@ -54,7 +54,7 @@ frmPhysicalProperties::frmPhysicalProperties(PhysicalPropertiesModel& model, Use
     auto* layout = new QHBoxLayout(this);
     layout->addLayout(left, 1);
     layout->addLayout(right, 2);
-    resize(880, 480);
+    resize(780, 460);
 }
 
 // The rows of properties, each with its unit list and, for the correlations,
@@ -74,11 +74,8 @@ QGroupBox* frmPhysicalProperties::propertiesFrame()
         grid->addWidget(field, row + 1, 1);
         grid->addWidget(view().unitList(cboPPUnits(row), PhysicalPropertiesModel::rowUnitTag(row)), row + 1, 2);
         if (row < 6) {
-            for (const Control& limit : {txtLTL(row), txtUTL(row)}) {
-                QLineEdit* edit = view().field(limit);
-                edit->setMinimumWidth(60);
-                grid->addWidget(edit, row + 1, limit.family == "txtLTL" ? 3 : 4);
-            }
+            for (const Control& limit : {txtLTL(row), txtUTL(row)})
+                grid->addWidget(view().field(limit), row + 1, limit.family == "txtLTL" ? 3 : 4);
         }
     }
     grid->addWidget(new QLabel("Molecular Weight:"), 11, 0);
