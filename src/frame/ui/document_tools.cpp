@@ -10,6 +10,8 @@
 #include <QMdiSubWindow>
 #include <QScrollArea>
 
+#include <algorithm>
+
 namespace kestrova {
 
 namespace {
@@ -83,7 +85,9 @@ DocumentTool* OpenDocuments::show(Slot& slot)
         slot.window->setWindowTitle(form->windowTitle());
         QObject::connect(form, &QWidget::windowTitleChanged, slot.window, &QWidget::setWindowTitle);
         slot.window->installEventFilter(&watcher_);
+        slot.window->show(); // its frame is known once it shows
         slot.window->resize(defaultSize(*slot.window, *form));
+        slot.window->move(defaultPlace(*slot.window));
     }
     slot.window->show();
     area_.setActiveSubWindow(slot.window);
@@ -96,6 +100,15 @@ QSize OpenDocuments::defaultSize(const QMdiSubWindow& window, const QWidget& for
 {
     const QSize frame = window.size() - window.widget()->size(); // the title bar and the borders
     return (form.sizeHint() + frame).boundedTo(area_.viewport()->size()).expandedTo(QSize(200, 150));
+}
+
+// A new window opens one step down and right of the one before it, and
+// wholly inside the area where it fits.
+QPoint OpenDocuments::defaultPlace(const QMdiSubWindow& window) const
+{
+    const int step = 24 * static_cast<int>(area_.subWindowList().size() - 1);
+    const QSize room = area_.viewport()->size() - window.size();
+    return {std::clamp(step, 0, std::max(room.width(), 0)), std::clamp(step, 0, std::max(room.height(), 0))};
 }
 
 QWidget* OpenDocuments::formOf(const QMdiSubWindow& window)

@@ -16,6 +16,7 @@
 class QMdiArea;
 class QMdiSubWindow;
 class QObject;
+class QPoint;
 class QSize;
 class QWidget;
 
@@ -63,6 +64,7 @@ private:
     };
     DocumentTool* show(Slot& slot);
     QSize defaultSize(const QMdiSubWindow& window, const QWidget& form) const;
+    QPoint defaultPlace(const QMdiSubWindow& window) const;
 
     QMdiArea& area_;
     UserInterface& ui_;

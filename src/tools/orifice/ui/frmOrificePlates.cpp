@@ -23,7 +23,7 @@ using namespace orifice;
 // A sketch of the plate in its pipe with the two pressure taps of the style.
 class TapSketch : public QWidget {
 public:
-    explicit TapSketch(QWidget* parent = nullptr) : QWidget(parent) { setMinimumSize(110, 44); }
+    explicit TapSketch(QWidget* parent = nullptr) : QWidget(parent) { setMinimumSize(110, 52); }
     void setTap(int tap)
     {
         tap_ = tap;
@@ -35,7 +35,10 @@ protected:
     {
         QPainter p(this);
         p.setRenderHint(QPainter::Antialiasing);
-        const int w = width(), top = 18, bottom = height() - 12, mid = w / 2, D = bottom - top;
+        // The pipe between its walls, the plate across its middle, and the
+        // two taps above it at their distances from the plate.
+        const int w = width(), h = height();
+        const int top = h / 3, bottom = h - 4, mid = w / 2, D = bottom - top;
         p.setPen(QPen(QColor(40, 60, 90), 2));
         p.drawLine(4, top, w - 4, top);
         p.drawLine(4, bottom, w - 4, bottom);
@@ -45,8 +48,8 @@ protected:
         const double spacing[3][2] = {{0.5, 0.5}, {1.0, 0.5}, {0.08, 0.08}};
         p.setPen(QPen(QColor(200, 40, 40), 2));
         for (int side = 0; side < 2; ++side) {
-            const int x = mid + static_cast<int>((side == 0 ? -1 : 1) * spacing[tap_][side] * D * 1.2);
-            p.drawLine(x, top, x, top - 12);
+            const int x = mid + static_cast<int>((side == 0 ? -1 : 1) * (spacing[tap_][side] * D + 3));
+            p.drawLine(x, top, x, top - h / 4);
         }
     }
 
