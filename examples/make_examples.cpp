@@ -1,12 +1,16 @@
-// Writes the example project files of examples/ by driving the pressure drop
-// and orifice tools as a user would: typing texts, choosing options, and saving.
+// Writes the example project files of examples/ by driving the pressure drop,
+// orifice and pump network tools as a user would: typing texts, choosing
+// options, entering each line's pipe data in the segment dialog, and saving.
 // Usage: kestrova-make-examples OUTPUT_FOLDER
 
 #include "forms/store/global_units.h"
 #include "forms/model/scripted_user_interface.h"
 #include "tools/orifice/model/orifice_model.h"
 #include "tools/piping/model/minor_loss_store.h"
+#include "tools/piping/model/pipe_data.h"
 #include "tools/pressure_drop/model/pressure_drop_model.h"
+#include "tools/pump_network/model/pump_network_model.h"
+#include "tools/pump_network/model/pump_segment_input_model.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -89,6 +93,89 @@ bool saveOrificeExample(const QDir& folder)
     return false;
 }
 
+// The inside diameter of a schedule 40 carbon steel pipe, as the pipe data base beside the program gives it.
+std::string schedule40ID(const PipeTable& steel, const std::string& nominal)
+{
+    for (const auto& row : steel.rows)
+        if (row.at(0) == nominal && row.at(2) == "40/STD")
+            return row.at(4);
+    throw DataFileError("no schedule 40 pipe of " + nominal + " in");
+}
+
+// A cooling water loop: the pump draws from the cooling tower basin and feeds
+// five exchangers through control valves, with a bypass back to the basin.
+// Water at 85 °F; schedule 40 steel; the exchangers as added losses.
+bool savePumpNetworkExample(const QDir& folder)
+{
+    struct Line {
+        const char* nominal;
+        const char *length, *added;
+    };
+    // Lines 1 to 11: suction, discharge, bypass, header, then the branches and their risers.
+    const Line lines[] = {{"8", "30", "0"},  {"6", "40", "3"},   {"2", "120", "0"}, {"6", "250", "0"},
+                          {"3", "150", "8"}, {"3", "100", "6"},  {"4", "80", "0"},  {"4", "120", "10"},
+                          {"4", "60", "0"},  {"2", "90", "4"},   {"2", "110", "5"}};
+    // Lines 5, 6, 8, 10, 11 and 3: flow in lbm/hr, pressure in psia, height in ft.
+    const std::array<std::array<const char*, 3>, 6> ends{{{"60,000", "25", "40"},
+                                                          {"45,000", "30", "25"},
+                                                          {"90,000", "25", "15"},
+                                                          {"20,000", "20", "5"},
+                                                          {"15,000", "35", "30"},
+                                                          {"10,000", "14.7", "12"}}};
+    try {
+        const PipeTable steel =
+            readPipeTable(QDir(QCoreApplication::applicationDirPath()).filePath("pipeastm.sqlite"), "ECarbon Steel");
+        globalUnits() = GlobalUnits{};
+        minorLossStore() = MinorLossStore{};
+        ScriptedUserInterface ui;
+        PumpNetworkModel tool(ui);
+        tool.Form_Load();
+        tool.Form_Activate();
+        ui.segmentInputSteps.push_back([&](FormModel& form) {
+            using namespace pump_segment;
+            auto& dialog = dynamic_cast<PumpSegmentInputModel&>(form);
+            for (int list : {Length, Roughness})
+                dialog.choose(cboUnits(list), 1); // ft
+            dialog.choose(cboUnits(Diameter), 0); // in
+            dialog.choose(cboUnits(Density), 0);  // lbm/ft³
+            dialog.choose(cboUnits(Viscosity), 0); // cP
+            for (int line = 1; line <= 11; ++line) {
+                const Line& l = lines[line - 1];
+                dialog.commit(txtData(Length), l.length);
+                dialog.commit(txtData(Diameter), schedule40ID(steel, l.nominal));
+                dialog.commit(txtData(Roughness), "0.00015");
+                dialog.commit(txtData(Density), "62.2");
+                dialog.commit(txtData(Viscosity), "0.8");
+                dialog.commit(txtData(AddedLosses), l.added);
+                if (line < 11)
+                    dialog.choose(scrLineNumber, -(line + 1));
+            }
+            dialog.click(cmdOK);
+        });
+        tool.grdSummary_DblClick(2);
+        for (size_t t = 0; t < ends.size(); ++t) {
+            const int first = static_cast<int>(3 * t);
+            tool.choose(pump_network::cboUnits(first + 2), 1); // ft
+            for (int k = 0; k < 3; ++k)
+                tool.commit(pump_network::txtData(first + k), ends[t][static_cast<size_t>(k)]);
+        }
+        tool.choose(pump_network::cboUnits(pump_network::SourceHeight), 1);
+        tool.commit(pump_network::txtData(pump_network::SourceHeight), "10");
+        tool.commit(pump_network::txtHydraulicEff, "75");
+        tool.commit(pump_network::txtDescription, "Cooling water loop, unit 2");
+        tool.setStrFileName(folder.filePath("pump-network-cooling-water.ksv").toStdString());
+        if (!tool.OpenSaveData("Save As"))
+            throw DataFileError("the file could not be written");
+        const auto& shown = tool.view().txtData;
+        std::cout << "pump-network-cooling-water.ksv: pump head " << shown[pump_network::PumpHead].text
+                  << " ft, motor " << shown[pump_network::MotorSize].text << " hp\n";
+        return true;
+    } catch (const std::exception& error) {
+        std::cerr << "pump-network-cooling-water.ksv: " << error.what() << '\n';
+        return false;
+    }
+}
+
 int main(int argc, char** argv)
 {
     QCoreApplication app(argc, argv);
@@ -113,5 +200,6 @@ int main(int argc, char** argv)
     for (const Case& c : cases)
         ok = save(c, folder) && ok;
     ok = saveOrificeExample(folder) && ok;
+    ok = savePumpNetworkExample(folder) && ok;
     return ok ? 0 : 1;
 }

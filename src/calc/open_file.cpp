@@ -8,6 +8,7 @@
 #include "forms/model/scripted_user_interface.h"
 #include "tools/orifice/model/orifice_model.h"
 #include "tools/pressure_drop/model/pressure_drop_model.h"
+#include "tools/pump_network/model/pump_network_model.h"
 
 #include <QFileInfo>
 
@@ -21,20 +22,31 @@ std::string refusal(const std::string& message, bool& ok)
     return JsonObject().boolean("ok", false).text("error", message).str();
 }
 
-std::string openOrificeFile(const std::string& path, bool& ok)
+// A file opened in its tool as File Open opens it, then reported as the
+// tool's call would report it. The pressure drop tool takes the global units
+// after the file (its activation follows the open); the others before it.
+template <typename Model, typename Report>
+std::string openInTool(const std::string& path, FileKind kind, bool activateAfterOpen, bool& ok, Report report)
 {
     resetSharedState();
     ScriptedUserInterface ui;
-    OrificeModel tool(ui);
+    Model tool(ui);
     tool.Form_Load();
-    tool.Form_Activate();
+    if (!activateAfterOpen)
+        tool.Form_Activate();
     tool.setStrFileName(path);
     if (!tool.OpenSaveData("Open"))
         return refusal(ui.messages.empty() ? "The file could not be opened." : ui.messages.back().text, ok);
+    if (activateAfterOpen)
+        tool.Form_Activate();
     ok = true;
     JsonObject result;
-    reportOrifice(tool, result);
-    return JsonObject().boolean("ok", true).integer("kind", 1).raw("result", result.str()).str();
+    report(tool, ui, result);
+    return JsonObject()
+        .boolean("ok", true)
+        .integer("kind", static_cast<int>(kind))
+        .raw("result", result.str())
+        .str();
 }
 
 } // namespace
@@ -51,24 +63,21 @@ std::string openProjectFile(const std::string& path, bool& ok)
     const std::int16_t kind = fileKindOf(bytes);
     if (kind < 1 || kind > 3)
         return refusal("This is not a Kestrova data file.", ok);
-    if (kind == static_cast<std::int16_t>(FileKind::PumpNetwork))
-        return refusal("Pump network files cannot be opened by kestrova-calc in this version.", ok);
-    if (kind == static_cast<std::int16_t>(FileKind::OrificePlates))
-        return openOrificeFile(info.absoluteFilePath().toStdString(), ok);
-
-    resetSharedState();
-    ScriptedUserInterface ui;
-    PressureDropModel tool(ui);
-    tool.Form_Load();
-    tool.setStrFileName(info.absoluteFilePath().toStdString());
-    if (!tool.OpenSaveData("Open"))
-        return refusal(ui.messages.empty() ? "The file could not be opened." : ui.messages.back().text, ok);
-    tool.Form_Activate();
-
-    ok = true;
-    JsonObject result;
-    reportPressureDrop(tool, ui, result);
-    return JsonObject().boolean("ok", true).integer("kind", kind).raw("result", result.str()).str();
+    const std::string absolute = info.absoluteFilePath().toStdString();
+    switch (static_cast<FileKind>(kind)) {
+    case FileKind::PumpNetwork:
+        return openInTool<PumpNetworkModel>(absolute, FileKind::PumpNetwork, false, ok,
+                                            [](const auto& tool, const auto&, JsonObject& result) {
+                                                reportPumpNetwork(tool, result);
+                                            });
+    case FileKind::OrificePlates:
+        return openInTool<OrificeModel>(absolute, FileKind::OrificePlates, false, ok,
+                                        [](const auto& tool, const auto&, JsonObject& result) {
+                                            reportOrifice(tool, result);
+                                        });
+    default:
+        return openInTool<PressureDropModel>(absolute, FileKind::PressureDrop, true, ok, reportPressureDrop);
+    }
 }
 
 } // namespace kestrova::calc

@@ -212,8 +212,8 @@ void pumpNetworkNetCalc(const RequestArgs& a, JsonObject& result)
     const json& args = a.raw();
     applyUnits(objectArgument(args, "units"), PumpNetworkModel::kUnitLists,
                [&tool](int index, UnitIndex unit) { tool.setUnit(index, unit); });
-    NetworkState& s = tool.state;
-    SegmentData& g = tool.segments;
+    NetworkState s = tool.view().network;
+    SegmentData g = tool.view().segments;
     MinorLossStore& k = minorLossStore();
     const std::vector<std::pair<const char*, LineValues*>> inputs{
         {"NetFlow", &s.NetFlow}, {"NetPDest", &s.NetPDest}, {"NetHeight", &s.NetHeight}, {"SegLength", &g.SegLength},
@@ -238,10 +238,7 @@ void pumpNetworkNetCalc(const RequestArgs& a, JsonObject& result)
     for (const char* name : {"PumpHead", "NPSHa", "MotorSize", "PDischarge", "PSuction"})
         applyScalar(earlier, name, *networkScalar(s, name));
 
-    for (int i = 0; i < PumpNetworkModel::kFields; ++i)
-        tool.cboUnits_Click(i);
-    tool.txtHydraulicEff = plainNumberText(s.PumpEff);
-    tool.txtMinValvePercentdP = plainNumberText(s.LinePercentDp);
+    tool.useNetwork(s, g);
     tool.NetCalc();
     reportPumpNetwork(tool, result);
 }

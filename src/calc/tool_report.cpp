@@ -113,8 +113,9 @@ Single* networkScalar(NetworkState& s, const std::string& name)
 
 void reportPumpNetwork(const PumpNetworkModel& tool, JsonObject& result)
 {
-    NetworkState s = tool.state;
-    const SegmentData& g = tool.segments;
+    const PumpNetworkState& form = tool.view();
+    NetworkState s = form.network;
+    const SegmentData& g = form.segments;
     const auto array = [](const std::array<Single, 12>& values) {
         std::string json = "[";
         for (size_t i = 0; i < values.size(); ++i)
@@ -134,12 +135,12 @@ void reportPumpNetwork(const PumpNetworkModel& tool, JsonObject& result)
         result.single(name, *networkScalar(s, name));
     JsonObject texts;
     for (int i = 0; i < PumpNetworkModel::kFields; ++i)
-        texts.text("txtData(" + std::to_string(i) + ")", tool.txtData[static_cast<size_t>(i)]);
+        texts.text("txtData(" + std::to_string(i) + ")", form.txtData[static_cast<size_t>(i)].text);
     std::string rows = "[";
-    for (size_t r = 0; r < tool.grid.size(); ++r) {
+    for (size_t r = 0; r < form.grid.size(); ++r) {
         rows += r ? ", [" : "[";
-        for (size_t c = 0; c < tool.grid[r].size(); ++c)
-            rows += (c ? ", " : "") + quoted(tool.grid[r][c]);
+        for (size_t c = 0; c < form.grid[r].size(); ++c)
+            rows += (c ? ", " : "") + quoted(form.grid[r][c]);
         rows += "]";
     }
     result.raw("texts", texts.str()).raw("grid", rows + "]");

@@ -16,6 +16,8 @@ for f in "$examples"/*.ksv; do
   case "$(basename "$f"):$out" in
     orifice-*'"ok": true, "kind": 1'*'"txtErrorLiquid": ""'*) ;;
     orifice-*) fail "--open $(basename "$f"): $out" ;;
+    pump-network-*'"ok": true, "kind": 3'*'"PumpHead": 115.0'*'"txtData(27)": "115.03"'*'"grid"'*) ;;
+    pump-network-*) fail "--open $(basename "$f"): $out" ;;
     *'"ok": true, "kind": 2'*'"failed": false'*) ;;
     *) fail "--open $(basename "$f"): $out" ;;
   esac
@@ -30,7 +32,7 @@ refused "$work/missing.ksv" "File does not exist."
 : > "$work/empty.ksv"; refused "$work/empty.ksv" "This is not a Kestrova data file."
 printf '\004\000' > "$work/four.ksv"; refused "$work/four.ksv" "This is not a Kestrova data file."
 printf '\001\000rest' > "$work/orifice.ksv"; refused "$work/orifice.ksv" "This Orifice Plates data file is damaged or incomplete"
-printf '\003\000rest' > "$work/network.ksv"; refused "$work/network.ksv" "Pump network files"
+printf '\003\000rest' > "$work/network.ksv"; refused "$work/network.ksv" "This Pump System data file is damaged or incomplete"
 head -c 300 "$examples/liquid-water-6in.ksv" > "$work/short.ksv"; refused "$work/short.ksv" "damaged or incomplete"
 refused "$work" "File does not exist."
 

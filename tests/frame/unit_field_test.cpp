@@ -78,22 +78,26 @@ TEST(UnitField, EveryNetworkFieldAndGridRowShowsInEveryUnitOfItsList)
     ScriptedUserInterface ui;
     PumpNetworkModel tool(ui);
     tool.Form_Load();
-    for (int line = 1; line <= 11; ++line) {
-        tool.state.NetFlow[line] = tool.state.NetPDest[line] = tool.state.NetHeight[line] = 1;
-        tool.segments.SegID[line] = tool.segments.SegDensity[line] = 1;
+    NetworkState network{};
+    SegmentData segments{};
+    for (size_t line = 1; line <= 11; ++line) {
+        network.NetFlow[line] = network.NetPDest[line] = network.NetHeight[line] = 1;
+        segments.SegID[line] = segments.SegDensity[line] = 1;
     }
-    tool.state.PumpHead = tool.state.MotorSize = tool.state.NPSHa = 1;
+    network.PumpHead = network.MotorSize = network.NPSHa = 1;
+    tool.useNetwork(network, segments);
     for (int list = 0; list < PumpNetworkModel::kUnitLists; ++list)
         for (size_t u = 0; u < unitList(PumpNetworkModel::unitTagOf(list)).size(); ++u) {
             tool.setUnit(list, static_cast<UnitIndex>(u));
             if (list < PumpNetworkModel::kFields) {
-                EXPECT_FALSE(tool.txtData[static_cast<size_t>(list)].empty()) << "txtData(" << list << ") unit " << u;
+                EXPECT_FALSE(tool.view().txtData[static_cast<size_t>(list)].text.empty())
+                    << "txtData(" << list << ") unit " << u;
             }
         }
     // Back in lbm/hr the flow row shows line 3 again; in kg/s it was a zero of
     // its mask, which the grid shows empty.
     tool.setUnit(34, 5);
-    EXPECT_EQ(tool.grid[1][4], "");
+    EXPECT_EQ(tool.view().grid[1][4], "");
     tool.setUnit(34, 0);
-    EXPECT_EQ(tool.grid[1][4], "1");
+    EXPECT_EQ(tool.view().grid[1][4], "1");
 }

@@ -104,18 +104,19 @@ TEST_F(TypedOverflowTest, PumpNetworkFields)
     PumpNetworkModel tool(ui);
     tool.Form_Load();
     tool.Form_Activate();
+    const PumpNetworkState& form = tool.view();
     for (const std::string& typed : kTooLarge) {
-        for (int i = 0; i < PumpNetworkModel::kFields; ++i) {
-            tool.txtData[static_cast<size_t>(i)] = typed;
-            ASSERT_NO_THROW(tool.txtData_LostFocus(i)) << "txtData(" << i << ") " << typed;
-        }
-        tool.txtHydraulicEff = typed;
-        ASSERT_NO_THROW(tool.txtHydraulicEff_LostFocus());
-        EXPECT_EQ(tool.txtHydraulicEff, "0");
-        tool.txtMinValvePercentdP = typed;
-        ASSERT_NO_THROW(tool.txtMinValvePercentdP_LostFocus());
-        std::vector<std::string> texts(tool.txtData.begin(), tool.txtData.end());
-        for (const auto& row : tool.grid)
+        for (int i = 0; i < PumpNetworkModel::kFields; ++i)
+            ASSERT_NO_THROW(tool.commit(pump_network::txtData(i), typed)) << "txtData(" << i << ") " << typed;
+        // A percent that no single holds keeps the value the field had.
+        ASSERT_NO_THROW(tool.commit(pump_network::txtHydraulicEff, typed));
+        EXPECT_EQ(form.txtHydraulicEff.text, "100");
+        ASSERT_NO_THROW(tool.commit(pump_network::txtMinValvePercentdP, typed));
+        EXPECT_EQ(form.txtMinValvePercentdP.text, "30");
+        std::vector<std::string> texts;
+        for (const TextControl& field : form.txtData)
+            texts.push_back(field.text);
+        for (const auto& row : form.grid)
             texts.insert(texts.end(), row.begin(), row.end());
         expectShowable(texts, "Pump System");
     }

@@ -88,14 +88,24 @@ std::optional<ReportTemplate> readReportTemplate(const QString& path)
         const QString word = line.section(' ', 0, 0);
         const QString rest = line.section(' ', 1).trimmed();
         using Kind = ReportTemplate::Line::Kind;
+        const QStringList parts = rest.split('|');
+        const auto part = [&parts](qsizetype i) { return parts[i].trimmed().toStdString(); };
         if (word == "heading" || word == "section") {
-            layout.lines.push_back({word == "heading" ? Kind::Heading : Kind::Section, rest.toStdString(), {}, {}});
+            layout.lines.push_back({word == "heading" ? Kind::Heading : Kind::Section, rest.toStdString(), {}, {}, {}});
         } else if (word == "field") {
-            const QStringList parts = rest.split('|');
             if (parts.size() < 2 || parts.size() > 3 || parts[1].trimmed().isEmpty())
                 return std::nullopt;
-            layout.lines.push_back({Kind::Field, parts[0].trimmed().toStdString(), parts[1].trimmed().toStdString(),
-                                    parts.size() == 3 ? parts[2].trimmed().toStdString() : std::string()});
+            layout.lines.push_back({Kind::Field, part(0), part(1), parts.size() == 3 ? part(2) : std::string(), {}});
+        } else if (word == "lines" || word == "row") {
+            const qsizetype first = word == "lines" ? 1 : 2; // a row's unit column stands before its cells
+            if (parts.size() <= first)
+                return std::nullopt;
+            ReportTemplate::Line line{word == "lines" ? Kind::Lines : Kind::Row, part(0), {}, {}, {}};
+            if (word == "row" && part(1) != "-")
+                line.unitColumn = part(1);
+            for (qsizetype i = first; i < parts.size(); ++i)
+                line.cells.push_back(part(i));
+            layout.lines.push_back(std::move(line));
         } else {
             return std::nullopt;
         }
@@ -133,26 +143,56 @@ QString companyHtml(const DataSheetColumns& row)
     return lines.isEmpty() ? QString() : "<p align=\"right\"><b>" + lines.join("<br>") + "</b></p>";
 }
 
+// A row of a table of lines: its label, its unit, then one cell per column;
+// the heading row of the table in bold.
+std::optional<QString> lineCellsHtml(const ReportTemplate::Line& line, const DataSheetColumns& row)
+{
+    const bool heading = line.kind == ReportTemplate::Line::Kind::Lines;
+    const QString cell = heading ? "<th align=\"right\">" : "<td align=\"right\">";
+    const QString end = heading ? "</th>" : "</td>";
+    QString html = "<tr>" + QString(heading ? "<th align=\"left\">" : "<td>") + escaped(line.text) + end;
+    std::optional<std::string> unit = std::string();
+    if (!heading && !line.unitColumn.empty())
+        unit = columnText(row, line.unitColumn);
+    if (!unit)
+        return std::nullopt;
+    html += (heading ? "<th></th>" : "<td>" + escaped(*unit) + "</td>");
+    for (const std::string& name : line.cells) {
+        const auto value = heading ? std::optional<std::string>(name) : columnText(row, name);
+        if (!value)
+            return std::nullopt;
+        html += cell + escaped(*value) + end;
+    }
+    return html + "</tr>";
+}
+
 } // namespace
 
 std::optional<QString> dataSheetHtml(const ReportTemplate& layout, const DataSheetColumns& row)
 {
     QString html = "<html><body style=\"font-family: sans-serif; font-size: 10pt\">" + companyHtml(row);
-    bool tableOpen = false;
-    const auto closeTable = [&] {
-        if (tableOpen)
+    // The table open now: of fields (label, value, unit), or of lines across the page.
+    enum class Open { None, Fields, Lines } open = Open::None;
+    const auto openTable = [&](Open wanted) {
+        if (open == wanted)
+            return;
+        if (open != Open::None)
             html += "</table>";
-        tableOpen = false;
+        if (wanted == Open::Fields)
+            html += "<table width=\"100%\" cellspacing=\"0\" cellpadding=\"3\">";
+        else if (wanted == Open::Lines)
+            html += "<table width=\"100%\" cellspacing=\"0\" cellpadding=\"2\" style=\"font-size: 8pt\">";
+        open = wanted;
     };
     using Kind = ReportTemplate::Line::Kind;
     for (const ReportTemplate::Line& line : layout.lines) {
         switch (line.kind) {
         case Kind::Heading:
-            closeTable();
+            openTable(Open::None);
             html += "<h2>" + escaped(line.text) + "</h2>";
             break;
         case Kind::Section:
-            closeTable();
+            openTable(Open::None);
             html += "<h3 style=\"background-color: #c0c0ff\">" + escaped(line.text) + "</h3>";
             break;
         case Kind::Field: {
@@ -160,16 +200,25 @@ std::optional<QString> dataSheetHtml(const ReportTemplate& layout, const DataShe
             const auto unit = line.unitColumn.empty() ? std::optional<std::string>("") : columnText(row, line.unitColumn);
             if (!value || !unit)
                 return std::nullopt;
-            if (!tableOpen)
-                html += "<table width=\"100%\" cellspacing=\"0\" cellpadding=\"3\">";
-            tableOpen = true;
+            openTable(Open::Fields);
             html += "<tr><td width=\"45%\">" + escaped(line.text) + "</td><td width=\"30%\" align=\"right\">" +
                     escaped(*value) + "</td><td width=\"25%\">" + escaped(*unit) + "</td></tr>";
             break;
         }
+        case Kind::Lines:
+        case Kind::Row: {
+            const auto cells = lineCellsHtml(line, row);
+            if (!cells)
+                return std::nullopt;
+            if (line.kind == Kind::Lines)
+                openTable(Open::None); // each table of lines starts afresh
+            openTable(Open::Lines);
+            html += *cells;
+            break;
+        }
         }
     }
-    closeTable();
+    openTable(Open::None);
     return html + "</body></html>";
 }
 

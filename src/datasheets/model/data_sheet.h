@@ -58,14 +58,17 @@ std::string captionWithoutAccelerator(const std::string& caption);
 
 // A report template: the layout of one data sheet over its table's columns.
 // Lines of the file: "heading TEXT", "section TEXT", "field LABEL | COLUMN"
-// or "field LABEL | COLUMN | UNIT COLUMN"; blank lines and lines starting
-// with "#" are skipped.
+// or "field LABEL | COLUMN | UNIT COLUMN"; a table of lines across the page
+// by "lines CAPTION | HEADING | HEADING ..." and its rows by
+// "row LABEL | UNIT COLUMN or - | COLUMN | COLUMN ..."; blank lines and lines
+// starting with "#" are skipped.
 struct ReportTemplate {
     struct Line {
-        enum class Kind { Heading, Section, Field } kind;
-        std::string text;   // heading, section or field label
+        enum class Kind { Heading, Section, Field, Lines, Row } kind;
+        std::string text;   // heading, section, field or row label, the table's caption
         std::string column; // fields only
-        std::string unitColumn;
+        std::string unitColumn; // fields and rows; empty: none
+        std::vector<std::string> cells; // the table's headings, or a row's columns
     };
     std::vector<Line> lines;
 };

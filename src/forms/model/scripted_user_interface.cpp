@@ -64,4 +64,14 @@ int ScriptedUserInterface::runReport(const std::string& title, const std::string
     return reportResult;
 }
 
+void ScriptedUserInterface::PumpSystemData(FormModel& segmentInput)
+{
+    ++segmentInputsShown;
+    if (segmentInputSteps.empty())
+        return;
+    const auto step = std::move(segmentInputSteps.front());
+    segmentInputSteps.pop_front();
+    step(segmentInput);
+}
+
 } // namespace kestrova

@@ -7,6 +7,7 @@
 #include "forms/store/staging.h"
 
 #include <deque>
+#include <functional>
 #include <optional>
 #include <map>
 #include <string>
@@ -40,6 +41,8 @@ public:
     Single GetFlowrateConversion(int fluid) override;
     Single GetGasDensity(Single, Single) override { return next(densityAnswers); }
     bool GetPhysicalProperties(FluidKind fluid, Single temperature) override;
+    // The next of `segmentInputSteps` does what the user does in the dialog; without one it closes at once.
+    void PumpSystemData(FormModel& segmentInput) override;
     void showRegimeMap(const std::string& orientation) override { regimeMapsShown.push_back(orientation); }
     // Keeps the staged row as the report found it, and answers `reportResult`.
     int runReport(const std::string& title, const std::string& reportFile, const std::string& stagingPath,
@@ -53,6 +56,8 @@ public:
     std::deque<bool> saveAsAnswers;
     // Properties to apply at the next GetPhysicalProperties; none means cancel.
     std::deque<bool> propertiesApplied;
+    std::deque<std::function<void(FormModel&)>> segmentInputSteps;
+    int segmentInputsShown = 0;
 
     std::vector<Message> messages;
     int beeps = 0;

@@ -11,6 +11,8 @@
 
 namespace kestrova {
 
+class FormModel;
+
 enum class MessageButtons { Ok, OkCancel, YesNo, YesNoCancel };
 enum class MessageAnswer { Ok, Cancel, Yes, No };
 
@@ -48,6 +50,8 @@ public:
     // Fills the shared physical properties record; false when the user closed
     // the tool without applying.
     virtual bool GetPhysicalProperties(FluidKind fluid, Single temperature) = 0;
+    // Shows the pump network's segment dialog over its model, modally.
+    virtual void PumpSystemData(FormModel& segmentInput) = 0;
     // Shows a two-phase flow regime map form: "Horizontal" or "Vertical Up".
     virtual void showRegimeMap(const std::string& orientation) = 0;
     // The report engine: runs the report template over the last row of a

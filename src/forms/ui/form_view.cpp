@@ -312,7 +312,9 @@ bool FormView::filterEvent(QObject* watched, QEvent* event)
         selectOnRelease_ = nullptr;
         break;
     case QEvent::MouseButtonDblClick:
-        if (const Control* clicked = qobject_cast<QAbstractButton*>(watched) ? controlOf(watched) : nullptr)
+        // Buttons and captions take double clicks; a field keeps its own (it selects a word).
+        if (const Control* clicked =
+                qobject_cast<QAbstractButton*>(watched) || qobject_cast<QLabel*>(watched) ? controlOf(watched) : nullptr)
             model_.doubleClick(*clicked);
         break;
     case QEvent::Enter:

@@ -9,6 +9,8 @@
 #include "frame/model/frame_model.h"
 #include "frame/ui/frmMain.h"
 #include "tools/flow/ui/flow_dialogs.h"
+#include "tools/pump_network/model/pump_segment_input_model.h"
+#include "tools/pump_network/ui/frmPumpSystem.h"
 #include "tools/piping/model/minor_loss_store.h"
 #include "tools/piping/ui/piping_dialogs.h"
 #include "tools/properties/model/phys_props.h"
@@ -235,6 +237,14 @@ bool GuiUserInterface::GetPhysicalProperties(FluidKind fluid, Single temperature
         return false;
     tool->model.GetPhysicalProperties(fluid, temperature, [&] { tool->window.runModal(); });
     return !propertiesCancelled();
+}
+
+// The segment dialog runs on the model the pump network tool made for it.
+void GuiUserInterface::PumpSystemData(FormModel& segmentInput)
+{
+    auto& model = dynamic_cast<PumpSegmentInputModel&>(segmentInput);
+    frmPumpSystemInput window(model, *this, &frame());
+    window.runModal();
 }
 
 } // namespace kestrova

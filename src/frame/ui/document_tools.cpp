@@ -5,6 +5,8 @@
 #include "tools/orifice/ui/frmOrificePlates.h"
 #include "tools/pressure_drop/model/pressure_drop_model.h"
 #include "tools/pressure_drop/ui/frmPressureDrop.h"
+#include "tools/pump_network/model/pump_network_model.h"
+#include "tools/pump_network/ui/frmPumpSystem.h"
 
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -31,6 +33,7 @@ const std::vector<DocumentToolKind>& documentToolKinds()
     static const std::vector<DocumentToolKind> kinds{
         documentTool<PressureDropModel, frmPressureDrop>(2, "mnuToolsPressureDrop"),
         documentTool<OrificeModel, frmOrificePlates>(1, "mnuToolsRestrictionOrifices"),
+        documentTool<PumpNetworkModel, frmPumpSystem>(3, "mnuToolsPumpNetwork"),
     };
     return kinds;
 }

@@ -35,6 +35,7 @@ public:
     Single GetFlowrateConversion(int fluid) override;
     Single GetGasDensity(Single temperature, Single pressure) override;
     bool GetPhysicalProperties(FluidKind fluid, Single temperature) override;
+    void PumpSystemData(FormModel& segmentInput) override;
     void showRegimeMap(const std::string& orientation) override;
     // Lays the data sheet out from its template and the staged row, in a
     // print preview from which it is printed or saved as PDF.

@@ -3,30 +3,13 @@
 
 #include "frame/model/frame_model.h"
 #include "forms/store/project_file.h"
+#include "frame/file_bytes.h"
 #include "forms/store/settings_store.h"
 
 #include <QFile>
 #include <QTemporaryDir>
 
 using namespace kestrova;
-
-namespace {
-
-QByteArray bytesOf(const QString& path)
-{
-    QByteArray bytes;
-    EXPECT_TRUE(readWholeFile(path, bytes));
-    return bytes;
-}
-
-void writeBytes(const QString& path, const QByteArray& bytes)
-{
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-}
-
-} // namespace
 
 class PressureDropFileTest : public PressureDropTest {
 protected:

@@ -1,148 +1,25 @@
+// The pump network tool's events: load and activation, the fields and unit
+// lists, the pass after each edit, the drawing and the grid that open the
+// segment dialog, reset and closing.
+
 #include "tools/pump_network/model/pump_network_model.h"
 
-#include "units/field_kinds.h"
-#include "forms/store/global_units.h"
-#include "units/unit_field.h"
 #include "forms/model/user_interface.h"
+#include "forms/store/global_units.h"
 #include "numeric/display_mask.h"
 #include "numeric/field_text.h"
 #include "numeric/numeric_fault.h"
 #include "tools/piping/model/minor_loss_store.h"
+#include "tools/pump_network/model/pump_segment_input_model.h"
 
 namespace kestrova {
 
-namespace {
+using namespace pump_network;
 
-// The tool's own field kinds; the results of head and power are never typed.
-const FieldKind kFlow{"Flow Rate", FlowToUnit, FlowFromUnit,
-                      {"##,##0", "##,##0.00", "##,##0.0000", "##,##0.00", "##,##0.000", "##,##0.000"}};
-const FieldKind kPressureDrop{"Pressure Drop", PressureToUnit, PressureFromUnit, sameMask("##,##0.00")};
-const FieldKind kMinimumDrop{"Pressure Drop", PressureToUnit, PressureFromUnit,
-                             {"##,##0", "##,##0.0", "##,##0.0", "##,##0.0", "##,##0.0", "##,##0.0", "##,##0.0",
-                              "##,##0.0"}};
-const FieldKind kVaporPressure{"Vapor Pressure", PressureToUnit, PressureFromUnit, sameMask("##,##0.000")};
-const FieldKind kHead{"Head", HeadToUnit, nullptr, sameMask("##,##0.00")};
-const FieldKind kPower{"Power", PowerToUnit, nullptr, sameMask("##,##0.00")};
-const FieldKind kGridViscosity{"Viscosity", ViscosityToUnit, ViscosityFromUnit, sameMask("0.00E+00")};
-const FieldKind kGridDensity{"Density", DensityToUnit, DensityFromUnit,
-                             {"##,##0.00", "##,##0.0000", "##,##0.0", "##,##0.000"}};
-
-// The terminal lines in the order of the fields 0 to 17 and 19 to 24.
-constexpr std::array<int, 6> kTerminals{5, 6, 8, 10, 11, 3};
-
-const FieldKind& fieldKind(int field)
-{
-    if (field < 18)
-        return field % 3 == 0 ? kFlow : field % 3 == 1 ? field_kinds::pressure : field_kinds::length;
-    switch (field) {
-    case 18: return field_kinds::length;
-    case 25: return kVaporPressure;
-    case 26: return kFlow;
-    case 27:
-    case 29: return kHead;
-    case 30: return kPower;
-    case 31:
-    case 32: return field_kinds::pressure;
-    case 33: return kMinimumDrop;
-    default: return kPressureDrop; // the valve drops 19 to 24 and the pressure increase 28
-    }
-}
-
-Single& fieldElement(NetworkState& s, int field)
-{
-    if (field < 18) {
-        const int line = kTerminals[static_cast<size_t>(field / 3)];
-        return field % 3 == 0 ? s.NetFlow[line] : field % 3 == 1 ? s.NetPDest[line] : s.NetHeight[line];
-    }
-    if (field >= 19 && field <= 24)
-        return s.NetDpCV[kTerminals[static_cast<size_t>(field - 19)]];
-    switch (field) {
-    case 18: return s.NetHeight[1];
-    case 25: return s.VaporPress;
-    case 26: return s.NetFlow[1];
-    case 27: return s.PumpHead;
-    case 28: return s.NetDpCV[1];
-    case 29: return s.NPSHa;
-    case 30: return s.MotorSize;
-    case 31: return s.PDischarge;
-    case 32: return s.PSuction;
-    default: return s.MinValveDp;
-    }
-}
-
-bool isInputField(int field)
-{
-    return field <= 18 || field == 25 || field == 26 || field == 33;
-}
-
-Quantity fieldQuantity(int field)
-{
-    if (field < 19)
-        return field == 18 || field % 3 == 2 ? Quantity::Length : field % 3 == 0 ? Quantity::Flow : Quantity::Pressure;
-    switch (field) {
-    case 25: return Quantity::VaporPressure;
-    case 26: return Quantity::Flow;
-    case 27:
-    case 29: return Quantity::Head;
-    case 30: return Quantity::Power;
-    case 31:
-    case 32: return Quantity::Pressure;
-    default: return Quantity::PressureDrop;
-    }
-}
-
-// The grid rows that have a unit list: cboUnits(34 + k) serves row kGridRowOfList[k].
-struct GridRow {
-    int row;
-    const FieldKind* kind;
-    Quantity quantity;
-};
-const std::array<GridRow, 11> kGridLists{{
-    {1, &kFlow, Quantity::Flow},
-    {2, &field_kinds::diameter, Quantity::Diameter},
-    {3, &field_kinds::length, Quantity::Length},
-    {7, &field_kinds::roughness, Quantity::Roughness},
-    {8, &kGridViscosity, Quantity::Viscosity},
-    {9, &kGridDensity, Quantity::Density},
-    {10, &field_kinds::velocity, Quantity::Velocity},
-    {13, &kPressureDrop, Quantity::PressureDrop},
-    {14, &kPressureDrop, Quantity::PressureDrop},
-    {15, &kPressureDrop, Quantity::PressureDrop},
-    {16, &field_kinds::pressure, Quantity::Pressure},
-}};
-
-const LineValues* rowValues(const NetworkState& s, const SegmentData& g, int row)
-{
-    switch (row) {
-    case 1: return &s.NetFlow;
-    case 2: return &g.SegID;
-    case 3: return &g.SegLength;
-    case 7: return &g.SegRough;
-    case 8: return &g.SegVisc;
-    case 9: return &g.SegDensity;
-    case 10: return &s.NetVel;
-    case 13: return &g.SegDpAdd;
-    case 14: return &s.NetDpLine;
-    case 15: return &s.NetDpCV;
-    default: return &s.NetPDest;
-    }
-}
-
-// Rows 15 and 16 have values only on the lines that end at a valve.
-bool cellHasValue(int row, int line)
-{
-    if (row != 15 && row != 16)
-        return true;
-    return line == 3 || line == 5 || line == 6 || line == 8 || line == 10 || line == 11 || (row == 16 && line > 3);
-}
-
-const std::array<const char*, 17> kRowNames{"",      "Flow:", "ID:",  "Length:", "K1:",     "K2:",      "K3:",
-                                            "e:",    "Visc:", "Density:", "Vel:", "Re:", "fd:", "dP Add:",
-                                            "dP Line:", "dP CV:", "P Dest:"};
-
-class ModelDisplay : public NetworkDisplay {
+// The pass's output lands in the tool's fields and grid.
+class NetworkResults : public NetworkDisplay {
 public:
-    explicit ModelDisplay(PumpNetworkModel& model) : model_(model) {}
+    explicit NetworkResults(PumpNetworkModel& model) : model_(model) {}
     void refresh(int field) override { model_.cboUnits_Click(field); }
     void gridCell(int row, int column, const std::string& text) override
     {
@@ -159,30 +36,26 @@ private:
     PumpNetworkModel& model_;
 };
 
-} // namespace
-
 PumpNetworkModel::PumpNetworkModel(UserInterface& ui, QObject* parent) : FormModel(parent), ui_(ui)
 {
-    grid[0][1] = "Line:";
-    for (int c = 2; c < kGridColumns; ++c)
-        grid[0][static_cast<size_t>(c)] = std::to_string(c - 1);
-    for (int r = 1; r < kGridRows; ++r)
-        grid[static_cast<size_t>(r)][0] = kRowNames[static_cast<size_t>(r)];
+    setUpControls();
+    ControlRegistry& all = controls();
+    all.family("txtData", txtData);
+    all.family("cboUnits", cboUnits);
+    all.add(pump_network::txtHydraulicEff, txtHydraulicEff);
+    all.add(pump_network::txtMinValvePercentdP, txtMinValvePercentdP);
+    all.add(pump_network::txtDescription, txtDescription);
 }
 
-const char* PumpNetworkModel::unitTagOf(int list)
-{
-    return list < kFields ? fieldKind(list).tag : kGridLists.at(static_cast<size_t>(list - kFields)).kind->tag;
-}
+// --- load, activation --------------------------------------------------------------
 
 void PumpNetworkModel::Form_Load()
 {
     ChangeNotice notice(*this);
-    state.PumpEff = 100;
-    state.LinePercentDp = 30;
-    state.MinValveDp = 10;
-    txtHydraulicEff = plainNumberText(state.PumpEff);
-    txtMinValvePercentdP = plainNumberText(state.LinePercentDp);
+    network.PumpEff = 100;
+    network.LinePercentDp = 30;
+    network.MinValveDp = 10;
+    showPercents();
     for (int i = 0; i < kUnitLists; ++i)
         cboUnits_Click(i);
     modified = false;
@@ -192,24 +65,32 @@ void PumpNetworkModel::Form_Load()
 void PumpNetworkModel::Form_Activate()
 {
     ChangeNotice notice(*this);
-    for (int i = 0; i < kUnitLists; ++i)
-        cboUnits[static_cast<size_t>(i)] =
-            globalUnits()[i < kFields ? fieldQuantity(i) : kGridLists[static_cast<size_t>(i - kFields)].quantity];
+    takeGlobalUnits();
     for (int i = 0; i < kFields; ++i)
         cboUnits_Click(i);
+    CurrentLine() = 1;
     {
         const BusyPointer busy(ui_);
         NetCalc();
     }
+    ui_.setToolbarButtonEnabled("Print", true);
     ui_.setStatusText("Pump Network Design");
 }
+
+void PumpNetworkModel::showPercents()
+{
+    txtHydraulicEff.text = plainNumberText(network.PumpEff);
+    txtMinValvePercentdP.text = plainNumberText(network.LinePercentDp);
+}
+
+// --- fields and unit lists --------------------------------------------------------------
 
 void PumpNetworkModel::setUnit(int list, UnitIndex unit)
 {
     if (list < 0 || list >= kUnitLists)
         return;
     ChangeNotice notice(*this);
-    cboUnits[static_cast<size_t>(list)] = unit;
+    cboUnits[static_cast<size_t>(list)].listIndex = unit;
     cboUnits_Click(list);
 }
 
@@ -219,50 +100,51 @@ void PumpNetworkModel::cboUnits_Click(int index)
         return;
     ChangeNotice notice(*this);
     if (index < kFields) {
-        const std::string text = unitFieldText(fieldKind(index), fieldElement(state, index), cboUnits[static_cast<size_t>(index)]);
-        if (!text.empty())
-            txtData[static_cast<size_t>(index)] = text;
+        showField(index);
         return;
     }
-    showRow(index);
+    showGridRow(index);
     CleanGrid();
 }
 
-void PumpNetworkModel::showRow(int list)
+void PumpNetworkModel::txtData_LostFocus(int field)
 {
-    const GridRow& row = kGridLists[static_cast<size_t>(list - kFields)];
-    const LineValues& values = *rowValues(state, segments, row.row);
-    for (int line = 1; line <= 11; ++line)
-        if (cellHasValue(row.row, line))
-            grid[static_cast<size_t>(row.row)][static_cast<size_t>(line + 1)] =
-                unitFieldText(*row.kind, values[static_cast<size_t>(line)], cboUnits[static_cast<size_t>(list)]);
+    if (field < 0 || field >= kFields)
+        return;
+    ChangeNotice notice(*this);
+    storeField(field);
+    cboUnits_Click(field);
+    const bool flow = (field < SourceHeight && field % 3 == 0) || field == PumpFlow;
+    const bool pressure = field < SourceHeight && field % 3 == 1;
+    if (flow)
+        cboUnits_Click(kFields + 0); // the grid's flow row
+    if (pressure)
+        cboUnits_Click(kUnitLists - 1); // the grid's destination row
+    NetCalc();
 }
 
-void PumpNetworkModel::UpDateGridFromInput()
+// A percent field takes its text as a single; a text that is no number
+// leaves the value as it was; the field shows the value's plain text.
+void PumpNetworkModel::txtHydraulicEff_LostFocus()
 {
-    for (int list = kFields; list < kUnitLists; ++list)
-        cboUnits_Click(list);
-    const MinorLossStore& k = minorLossStore();
-    for (int line = 1; line <= 11; ++line) {
-        const auto l = static_cast<size_t>(line);
-        grid[4][l + 1] = formatMask(k.SegK1[l], "#,###,###0.0");
-        grid[5][l + 1] = formatMask(k.SegK2[l], "#,##0.000");
-        grid[6][l + 1] = formatMask(k.SegK3[l], "#,##0.000");
+    ChangeNotice notice(*this);
+    try {
+        network.PumpEff = requiredFieldSingle(txtHydraulicEff.text);
+    } catch (const NumericFault&) {
     }
+    showPercents();
+    NetCalc();
 }
 
-void PumpNetworkModel::CleanGrid()
+void PumpNetworkModel::txtMinValvePercentdP_LostFocus()
 {
-    for (int r = 1; r < kGridRows; ++r)
-        for (int c = 2; c < kGridColumns; ++c) {
-            std::string& cell = grid[static_cast<size_t>(r)][static_cast<size_t>(c)];
-            try {
-                if (!cell.empty() && fieldSingle(cell) == 0)
-                    cell.clear();
-            } catch (const NumericFault&) {
-                // resume next: the cell stays as it is
-            }
-        }
+    ChangeNotice notice(*this);
+    try {
+        network.LinePercentDp = requiredFieldSingle(txtMinValvePercentdP.text);
+    } catch (const NumericFault&) {
+    }
+    showPercents();
+    NetCalc();
 }
 
 void PumpNetworkModel::NetCalc()
@@ -275,60 +157,129 @@ void PumpNetworkModel::NetCalc()
         segments.SegK2[l] = k.SegK2[l];
         segments.SegK3[l] = k.SegK3[l];
     }
-    ModelDisplay display(*this);
-    kestrova::NetCalc(state, segments, display);
+    NetworkResults results(*this);
+    kestrova::NetCalc(network, segments, results);
 }
 
-void PumpNetworkModel::txtData_LostFocus(int field)
+void PumpNetworkModel::useNetwork(const NetworkState& taken, const SegmentData& takenSegments)
 {
-    if (field < 0 || field >= kFields)
+    ChangeNotice notice(*this);
+    network = taken;
+    segments = takenSegments;
+    for (int i = 0; i < kUnitLists; ++i)
+        cboUnits_Click(i);
+    showPercents();
+}
+
+void PumpNetworkModel::Form_KeyPress()
+{
+    ChangeNotice notice(*this);
+    setModified();
+}
+
+void PumpNetworkModel::setModified()
+{
+    modified = true;
+    ui_.setToolbarButtonEnabled("Save", true);
+}
+
+// --- the drawing, the grid and the segment dialog --------------------------------------------
+
+void PumpNetworkModel::panNetwork_MouseDown(CanvasPoint point)
+{
+    const int segment = segmentAt(point);
+    if (segment < 0)
         return;
     ChangeNotice notice(*this);
-    if (isInputField(field))
-        fieldElement(state, field) =
-            unitFieldValue(fieldKind(field), txtData[static_cast<size_t>(field)], cboUnits[static_cast<size_t>(field)]);
-    cboUnits_Click(field);
-    if ((field < 18 && field % 3 == 0) || field == 26)
-        cboUnits_Click(34);
-    if (field < 18 && field % 3 == 1)
-        cboUnits_Click(44);
-    NetCalc();
+    openSegmentInput(pipeSegments()[static_cast<size_t>(segment)].line, true);
 }
 
-void PumpNetworkModel::txtHydraulicEff_LostFocus()
+void PumpNetworkModel::grdSummary_DblClick(int column)
 {
+    if (column < 2 || column >= kGridColumns)
+        return;
     ChangeNotice notice(*this);
-    state.PumpEff = fieldSingleOr0(txtHydraulicEff);
-    txtHydraulicEff = plainNumberText(state.PumpEff);
-    NetCalc();
+    openSegmentInput(column - 1, false);
 }
 
-void PumpNetworkModel::txtMinValvePercentdP_LostFocus()
+// The dialog edits the line's pipe data in place; each move to another line
+// runs the pass, so the grid behind it follows. After it closes: the vapour
+// pressure fetched for line 1 (from the drawing only), the copies down the
+// network, the pass.
+void PumpNetworkModel::openSegmentInput(int line, bool fromDrawing)
+{
+    CurrentLine() = static_cast<std::int16_t>(line);
+    {
+        PumpSegmentInputModel input(ui_, segments, requests, [this] {
+            ChangeNotice notice(*this);
+            const BusyPointer busy(ui_);
+            NetCalc();
+        });
+        input.Form_Load();
+        ui_.PumpSystemData(input);
+    }
+    if (fromDrawing && CurrentLine() == 1 && requests.vaporPressure != 0) {
+        network.VaporPress = requests.vaporPressure;
+        cboUnits_Click(VaporPressure);
+    }
+    {
+        const BusyPointer busy(ui_);
+        ApplyToRemainingLines();
+        NetCalc();
+    }
+    setModified();
+}
+
+void PumpNetworkModel::ApplyToRemainingLines()
+{
+    const int from = CurrentLine();
+    const auto copyDown = [from](LineValues& values) {
+        for (int line = from + 1; line <= 11; ++line)
+            values[static_cast<size_t>(line)] = values[static_cast<size_t>(from)];
+    };
+    if (from >= 1 && from <= 11) {
+        if (requests.applyRoughness)
+            copyDown(segments.SegRough);
+        if (requests.applyDensity)
+            copyDown(segments.SegDensity);
+        if (requests.applyViscosity)
+            copyDown(segments.SegVisc);
+    }
+    requests.applyRoughness = requests.applyDensity = requests.applyViscosity = false;
+}
+
+void PumpNetworkModel::cmdSizeGrid_Click()
 {
     ChangeNotice notice(*this);
-    state.LinePercentDp = fieldSingleOr0(txtMinValvePercentdP);
-    txtMinValvePercentdP = plainNumberText(state.LinePercentDp);
-    NetCalc();
+    gridFillsWindow = !gridFillsWindow;
 }
+
+void PumpNetworkModel::HSplitter_Moved(int position)
+{
+    ChangeNotice notice(*this);
+    gridFillsWindow = position == 0;
+}
+
+// --- reset and closing ------------------------------------------------------------------------
 
 void PumpNetworkModel::ResetNetwork()
 {
     ChangeNotice notice(*this);
-    const LineValues frictionFactors = state.NetFd; // not touched by a reset
-    state = NetworkState{};
-    state.NetFd = frictionFactors;
+    const LineValues frictionFactors = network.NetFd; // not touched by a reset
+    network = NetworkState{};
+    network.NetFd = frictionFactors;
     segments = SegmentData{};
+    unusedLineArrays = {};
     minorLossStore() = MinorLossStore{};
     for (int i = 0; i < kFields; ++i) {
-        txtData[static_cast<size_t>(i)] = "0";
+        txtData[static_cast<size_t>(i)].text = "0";
         cboUnits_Click(i);
     }
-    txtHydraulicEff = plainNumberText(state.PumpEff);
-    txtMinValvePercentdP = plainNumberText(state.LinePercentDp);
+    showPercents();
     for (int r = 1; r < kGridRows; ++r)
         for (int c = 2; c < kGridColumns; ++c)
             grid[static_cast<size_t>(r)][static_cast<size_t>(c)].clear();
-    txtDescription.clear();
+    txtDescription.text.clear();
     caption = kTitle;
 }
 
@@ -337,14 +288,65 @@ void PumpNetworkModel::cmdReset_Click()
     if (ui_.ask(kTitle, "Reset all input data?", MessageIcon::Warning, MessageButtons::OkCancel, MessageAnswer::Ok) ==
         MessageAnswer::Cancel)
         return;
+    ChangeNotice notice(*this);
     ResetNetwork();
     setModified();
+    fileName_.clear();
 }
 
-void PumpNetworkModel::setModified()
+bool PumpNetworkModel::Form_QueryUnload()
 {
-    modified = true;
-    ui_.setToolbarButtonEnabled("Save", true);
+    if (modified) {
+        const MessageAnswer answer = ui_.ask(kTitle, "Save data before closing?", MessageIcon::Question,
+                                             MessageButtons::YesNoCancel, MessageAnswer::Yes);
+        if (answer == MessageAnswer::Cancel)
+            return false;
+        if (answer == MessageAnswer::Yes && !(fileName_.empty() ? ui_.runSaveAs() : OpenSaveData("Save")))
+            return false; // nothing is lost: the window stays open
+    }
+    ChangeNotice notice(*this);
+    ResetNetwork();
+    ui_.setToolbarButtonEnabled("Save", false);
+    ui_.setToolbarButtonEnabled("Print", false);
+    return true;
+}
+
+// --- the window's way in -------------------------------------------------------------------------
+
+void PumpNetworkModel::commit(const Control& field, const std::string& text)
+{
+    if (TextControl* data = field.family == "txtData" ? elementOf(txtData, field) : nullptr) {
+        data->text = text;
+        txtData_LostFocus(field.index);
+    } else if (field == pump_network::txtHydraulicEff) {
+        txtHydraulicEff.text = text;
+        txtHydraulicEff_LostFocus();
+    } else if (field == pump_network::txtMinValvePercentdP) {
+        txtMinValvePercentdP.text = text;
+        txtMinValvePercentdP_LostFocus();
+    } else if (field == pump_network::txtDescription) {
+        ChangeNotice notice(*this);
+        txtDescription.text = text;
+    }
+}
+
+void PumpNetworkModel::click(const Control& control)
+{
+    if (control == pump_network::cmdReset)
+        cmdReset_Click();
+    else if (control == pump_network::cmdSizeGrid)
+        cmdSizeGrid_Click();
+}
+
+void PumpNetworkModel::choose(const Control& list, int entry)
+{
+    if (list.family == "cboUnits")
+        setUnit(list.index, static_cast<UnitIndex>(entry));
+}
+
+void PumpNetworkModel::keyTyped(const Control&)
+{
+    Form_KeyPress();
 }
 
 } // namespace kestrova
