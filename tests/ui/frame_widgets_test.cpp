@@ -3,6 +3,8 @@
 // controls by their program names, typing into fields, unit lists, options,
 // menu enabling and saving through the frame.
 
+#include "widget_test_support.h"
+
 #include "frame/ui/auxiliary_dialogs.h"
 #include "frame/ui/basPrint.h"
 #include "frame/model/company_info_model.h"
@@ -51,75 +53,8 @@
 
 using namespace kestrova;
 
-// Every field of a window shows its whole text and is no narrower than its
-// least width: the numbers are never cut off.
-void expectWholeTexts(QWidget& window)
-{
-    for (const QLineEdit* field : window.findChildren<QLineEdit*>()) {
-        if (!field->isVisibleTo(&window))
-            continue;
-        QVERIFY2(field->width() >= field->minimumWidth(), qPrintable(window.objectName() + " " + field->objectName()));
-        const int needed = field->fontMetrics().horizontalAdvance(field->text()) + 8;
-        QVERIFY2(field->width() >= needed, qPrintable(window.objectName() + " " + field->objectName() + " '" +
-                                                       field->text() + "'"));
-    }
-}
-
-// A frame with settings of its own in a folder of its own.
-struct FrameUnderTest {
-    QTemporaryDir dir;
-    SettingsStore store{dir.filePath("Kestrova.ini")};
-    frmMain frame{store};
-};
-
 class FrameWidgetsTest : public QObject {
     Q_OBJECT
-
-private:
-    template <typename T>
-    T* control(QWidget* form, const QString& name)
-    {
-        T* found = form->findChild<T*>(name);
-        if (!found)
-            qFatal("no control %s", qPrintable(name));
-        return found;
-    }
-
-    // Clicks the button of the next message box once it is shown.
-    static void answerNextMessage(QMessageBox::StandardButton answer)
-    {
-        QTimer::singleShot(20, [answer] {
-            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
-                box->button(answer)->click();
-            else
-                answerNextMessage(answer);
-        });
-    }
-
-    static QWidget* frontForm(frmMain& frame) { return OpenDocuments::formOf(*frame.mdiArea()->activeSubWindow()); }
-
-    // A frame of its own, shown and in front, as at the start of the program.
-    static bool shownAndActive(frmMain& frame)
-    {
-        frame.show();
-        frame.activateWindow();
-        return QTest::qWaitForWindowActive(&frame);
-    }
-
-    // Types each text into its field in turn, leaving each.
-    void typeAll(QWidget* form, std::initializer_list<std::pair<const char*, const char*>> texts)
-    {
-        for (const auto& [name, text] : texts)
-            type(control<QLineEdit>(form, name), text);
-    }
-
-    void type(QLineEdit* field, const QString& text)
-    {
-        field->setFocus();
-        field->selectAll();
-        QTest::keyClicks(field, text);
-        field->clearFocus(); // leaving the field commits it
-    }
 
 private slots:
     void initTestCase() { QApplication::setApplicationName("Kestrova"); }
@@ -246,7 +181,7 @@ private slots:
         frmMain& frame = under.frame;
         frame.resize(800, 600);
         QVERIFY(shownAndActive(frame));
-        for (std::int16_t kind : {2, 1}) {
+        for (std::int16_t kind : {2, 1, 3}) {
             QVERIFY(frame.openDocumentTool(kind));
             QMdiSubWindow* window = frame.mdiArea()->activeSubWindow();
             QVERIFY(window->width() <= frame.mdiArea()->viewport()->width());
@@ -587,6 +522,7 @@ private slots:
 
 int runFormViewTests(int argc, char** argv); // form_view_test.cpp
 int runExceptionBarrierTests(int argc, char** argv); // exception_barrier_test.cpp
+int runPumpNetworkWidgetTests(int argc, char** argv); // pump_network_widgets_test.cpp
 
 int main(int argc, char** argv)
 {
@@ -595,6 +531,6 @@ int main(int argc, char** argv)
     DialogWidgetsTest dialogs;
     PrintingAndSmallFormsTest printing;
     return QTest::qExec(&frame, argc, argv) | QTest::qExec(&dialogs, argc, argv) | QTest::qExec(&printing, argc, argv) |
-           runFormViewTests(argc, argv) | runExceptionBarrierTests(argc, argv);
+           runFormViewTests(argc, argv) | runExceptionBarrierTests(argc, argv) | runPumpNetworkWidgetTests(argc, argv);
 }
 #include "frame_widgets_test.moc"

@@ -148,15 +148,16 @@ QString companyHtml(const DataSheetColumns& row)
 std::optional<QString> lineCellsHtml(const ReportTemplate::Line& line, const DataSheetColumns& row)
 {
     const bool heading = line.kind == ReportTemplate::Line::Kind::Lines;
-    const QString cell = heading ? "<th align=\"right\">" : "<td align=\"right\">";
+    // A number never breaks over two lines of its cell.
+    const QString cell = heading ? "<th align=\"right\" nowrap>" : "<td align=\"right\" nowrap>";
     const QString end = heading ? "</th>" : "</td>";
-    QString html = "<tr>" + QString(heading ? "<th align=\"left\">" : "<td>") + escaped(line.text) + end;
+    QString html = "<tr>" + QString(heading ? "<th align=\"left\" nowrap>" : "<td nowrap>") + escaped(line.text) + end;
     std::optional<std::string> unit = std::string();
     if (!heading && !line.unitColumn.empty())
         unit = columnText(row, line.unitColumn);
     if (!unit)
         return std::nullopt;
-    html += (heading ? "<th></th>" : "<td>" + escaped(*unit) + "</td>");
+    html += (heading ? "<th></th>" : "<td nowrap>" + escaped(*unit) + "</td>");
     for (const std::string& name : line.cells) {
         const auto value = heading ? std::optional<std::string>(name) : columnText(row, name);
         if (!value)
@@ -181,7 +182,7 @@ std::optional<QString> dataSheetHtml(const ReportTemplate& layout, const DataShe
         if (wanted == Open::Fields)
             html += "<table width=\"100%\" cellspacing=\"0\" cellpadding=\"3\">";
         else if (wanted == Open::Lines)
-            html += "<table width=\"100%\" cellspacing=\"0\" cellpadding=\"2\" style=\"font-size: 8pt\">";
+            html += "<table width=\"100%\" cellspacing=\"0\" cellpadding=\"2\" style=\"font-size: 7pt\">";
         open = wanted;
     };
     using Kind = ReportTemplate::Line::Kind;

@@ -2,8 +2,9 @@
 // A pump network tool loaded and activated with the default global units,
 // driven as a user would: fields typed and left, unit lists picked, the
 // segment dialog opened from the grid or the drawing and worked through its
-// controls. The pipe data of a cooling water network, for the tests that
-// need one.
+// controls.
+
+#include "cooling_water_network.h"
 
 #include "forms/model/scripted_user_interface.h"
 #include "forms/store/global_units.h"
@@ -16,49 +17,6 @@
 #include <functional>
 #include <string>
 #include <vector>
-
-// One line's pipe data as typed in the segment dialog: ID in inches, length
-// in feet, roughness in feet, density in lbm/ft³, viscosity in kg/m-s,
-// additional losses in psi. Each text survives its mask unchanged.
-struct TypedPipe {
-    const char *id, *length, *roughness, *density, *viscosity, *added;
-};
-
-// A cooling water loop: a 6 in header and suction, 3 in and 2 in branches
-// of schedule 40 steel, a strainer on the discharge.
-inline const std::vector<TypedPipe>& coolingWaterPipes()
-{
-    static const std::vector<TypedPipe> pipes{
-        {"6.065", "20", "0.00015", "62.4", "0.001", "0"},    // 1 suction
-        {"6.065", "50", "0.00015", "62.4", "0.001", "5"},    // 2 discharge, strainer
-        {"2.067", "150", "0.00015", "62.4", "0.001", "0"},   // 3 recycle
-        {"6.065", "200", "0.00015", "62.4", "0.001", "0"},   // 4 header
-        {"3.068", "120", "0.00015", "62.4", "0.001", "2.5"}, // 5 exchanger
-        {"3.068", "90", "0.00015", "62.4", "0.001", "0"},    // 6
-        {"4.026", "60", "0.00015", "62.4", "0.001", "0"},    // 7
-        {"3.068", "110", "0.00015", "62.4", "0.001", "4"},   // 8 exchanger
-        {"4.026", "40", "0.00015", "62.4", "0.001", "0"},    // 9
-        {"2.067", "80", "0.00015", "62.4", "0.001", "0"},    // 10
-        {"2.067", "70", "0.00015", "62.4", "0.001", "1.5"},  // 11
-    };
-    return pipes;
-}
-
-// The destinations of lines 5, 6, 8, 10, 11 and 3: flow in lbm/hr, pressure
-// in psia, height in feet; then the fluid height of the source in feet.
-struct TypedDestination {
-    int line;
-    const char *flow, *pressure, *height;
-};
-inline const std::vector<TypedDestination>& coolingWaterDestinations()
-{
-    static const std::vector<TypedDestination> ends{
-        {5, "30,000", "45", "40"}, {6, "20,000", "30", "25"}, {8, "25,000", "60", "60"},
-        {10, "8,000", "25", "15"}, {11, "6,000", "20", "10"},  {3, "5,000", "14.7", "12"},
-    };
-    return ends;
-}
-inline constexpr const char* kCoolingWaterSourceHeight = "8";
 
 class PumpNetworkTest : public testing::Test {
 protected:

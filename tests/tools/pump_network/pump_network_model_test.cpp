@@ -26,8 +26,6 @@ SegmentData uniformPipes()
     return pipes;
 }
 
-class NoDisplay : public NetworkDisplay {};
-
 bool showable(const std::string& text)
 {
     for (const char* bad : {"nan", "inf", "NaN", "Inf"})
@@ -64,27 +62,9 @@ TEST_F(PumpNetworkTest, ANetworkEnteredThroughTheWindowGivesThePassOfTheCalculat
 {
     enterCoolingWaterNetwork();
 
-    SegmentData pipes{};
-    const auto& typed = coolingWaterPipes();
-    for (size_t line = 1; line <= 11; ++line) {
-        const TypedPipe& p = typed[line - 1];
-        pipes.SegID[line] = parseFieldNumber(p.id);
-        pipes.SegLength[line] = parseFieldNumber(p.length);
-        pipes.SegRough[line] = parseFieldNumber(p.roughness);
-        pipes.SegDensity[line] = parseFieldNumber(p.density);
-        pipes.SegVisc[line] = parseFieldNumber(p.viscosity);
-        pipes.SegDpAdd[line] = parseFieldNumber(p.added);
-    }
-    NetworkState expected{};
-    for (const TypedDestination& end : coolingWaterDestinations()) {
-        const auto line = static_cast<size_t>(end.line);
-        expected.NetFlow[line] = parseFieldNumber(end.flow);
-        expected.NetPDest[line] = parseFieldNumber(end.pressure);
-        expected.NetHeight[line] = parseFieldNumber(end.height);
-    }
-    expected.NetHeight[1] = parseFieldNumber(kCoolingWaterSourceHeight);
-    NoDisplay none;
-    kestrova::NetCalc(expected, pipes, none);
+    const CoolingWaterPass pass = coolingWaterPass();
+    const SegmentData& pipes = pass.pipes;
+    const NetworkState& expected = pass.network;
 
     for (const auto& [name, array] : {std::pair{"SegID", &SegmentData::SegID}, {"SegLength", &SegmentData::SegLength},
                                       {"SegRough", &SegmentData::SegRough}, {"SegDensity", &SegmentData::SegDensity},

@@ -83,6 +83,22 @@ QSize frmPumpSystem::sizeHint() const
     return {drawing.width() + scrollBar + 8, drawing.height() + pumpPane_->sizeHint().height() + scrollBar + 16};
 }
 
+// At its first showing the drawing takes what it needs, up to its share
+// of the height; the pump pane takes its width and the grid the rest.
+void frmPumpSystem::showEvent(QShowEvent* event)
+{
+    DocumentForm::showEvent(event);
+    if (panesPlaced_)
+        return;
+    panesPlaced_ = true;
+    const int height = hSplitter_->height(), width = vSplitter_->width();
+    const int drawing = std::min(drawing_->minimumSizeHint().height() + 4,
+                                 std::max(height * kDrawingShare / 100, height - pumpPane_->sizeHint().height()));
+    hSplitter_->setSizes({drawing, height - drawing});
+    const int pump = std::min(pumpPane_->sizeHint().width() + 20, width * 2 / 3);
+    vSplitter_->setSizes({pump, width - pump});
+}
+
 QWidget* frmPumpSystem::networkPane()
 {
     drawing_ = new NetworkDrawing(model_, view());
@@ -200,17 +216,32 @@ void frmPumpSystem::fillGridCells()
         }
 }
 
-// Each column as wide as its widest text.
+// Each column as wide as its widest text and 200 twips more; column 1 as
+// wide as its unit lists. Measured with the grid's own font, cell by cell,
+// which costs far less than asking each item for its size.
 void frmPumpSystem::sizeGridColumns()
 {
-    grid_->resizeColumnsToContents();
-    int listWidth = 0;
-    for (int r = 1; r < kGridRows; ++r)
-        if (QWidget* list = grid_->cellWidget(r, 1))
-            listWidth = std::max(listWidth, list->sizeHint().width());
-    grid_->setColumnWidth(1, listWidth);
-    for (int c = 2; c < kGridColumns; ++c)
-        grid_->setColumnWidth(c, grid_->columnWidth(c) + 12);
+    const QFontMetrics metrics(grid_->font());
+    const int margin = 200 / 15 + 2 * grid_->style()->pixelMetric(QStyle::PM_FocusFrameHMargin);
+    const auto& texts = model_.view().grid;
+    for (int c = 0; c < kGridColumns; ++c) {
+        if (c == 1) {
+            if (listColumnWidth_ == 0)
+                for (int r = 1; r < kGridRows; ++r)
+                    if (QWidget* list = grid_->cellWidget(r, 1))
+                        listColumnWidth_ = std::max(listColumnWidth_, list->sizeHint().width());
+            grid_->setColumnWidth(1, listColumnWidth_);
+            continue;
+        }
+        int widest = 0;
+        for (int r = 0; r < kGridRows; ++r)
+            widest = std::max(widest, metrics.horizontalAdvance(
+                                          QString::fromStdString(texts[static_cast<size_t>(r)][static_cast<size_t>(c)])));
+        if (c == 0)
+            widest = std::max(widest, grid_->cellWidget(0, 0)->sizeHint().width());
+        if (grid_->columnWidth(c) != widest + margin)
+            grid_->setColumnWidth(c, widest + margin);
+    }
 }
 
 void frmPumpSystem::renderDrawing()
@@ -258,8 +289,14 @@ frmPumpSystemInput::frmPumpSystemInput(PumpSegmentInputModel& model, UserInterfa
     grid->addWidget(tableButton(seg::PipeTable), seg::Diameter, 3);
     grid->addWidget(tableButton(seg::RoughnessTable), seg::Roughness, 3);
     auto* constants = new QHBoxLayout;
+    // The constants and the line number as wide as their texts, no wider.
+    const auto narrow = [this](QLineEdit* field) {
+        narrowFields_.push_back(field);
+        return field;
+    };
     for (int k = 0; k < 3; ++k)
-        constants->addWidget(view().field(seg::txtDisplay(k)));
+        constants->addWidget(narrow(view().field(seg::txtDisplay(k))));
+    constants->addStretch();
     grid->addWidget(new QLabel("K1, K2, K3:"), seg::kFields, 0);
     grid->addLayout(constants, seg::kFields, 1, 1, 2);
     grid->addWidget(tableButton(seg::MinorLossTable), seg::kFields, 3);
@@ -268,7 +305,7 @@ frmPumpSystemInput::frmPumpSystemInput(PumpSegmentInputModel& model, UserInterfa
 
     auto* lineRow = new QHBoxLayout;
     auto* lineCaption = new QLabel("Pipe / Tube Number:");
-    QLineEdit* line = view().field(seg::txtLineNumber);
+    QLineEdit* line = narrow(view().field(seg::txtLineNumber));
     lineCaption->setBuddy(line);
     scroll_ = new QScrollBar(Qt::Vertical, this);
     scroll_->setObjectName(QString::fromStdString(seg::scrLineNumber.name()));
@@ -301,6 +338,13 @@ frmPumpSystemInput::frmPumpSystemInput(PumpSegmentInputModel& model, UserInterfa
 
 void frmPumpSystemInput::renderDrawing()
 {
+    if (!narrowFields_.empty()) {
+        for (QLineEdit* field : narrowFields_)
+            field->setMaximumWidth(field->minimumWidth()); // known once the view has shown the field
+        narrowFields_.clear();
+        layout()->activate();
+        adjustSize();
+    }
     drawing_ = true;
     scroll_->setValue(model_.view().scrollValue);
     drawing_ = false;

@@ -8,8 +8,10 @@
 #include "forms/ui/tool_dialog.h"
 
 #include <array>
+#include <vector>
 
 class QGridLayout;
+class QLineEdit;
 class QPushButton;
 class QScrollBar;
 class QSplitter;
@@ -30,6 +32,7 @@ public:
 
 protected:
     void renderDrawing() override; // the grid's cells and the panes
+    void showEvent(QShowEvent* event) override;
 
 private:
     QWidget* networkPane();
@@ -45,6 +48,8 @@ private:
     QSplitter* hSplitter_ = nullptr; // the drawing over the rest
     QSplitter* vSplitter_ = nullptr; // the pump beside the grid
     bool gridFillsWindow_ = false;
+    bool panesPlaced_ = false;
+    int listColumnWidth_ = 0; // the widest unit list of the grid
 };
 
 class frmPumpSystemInput : public ToolDialog {
@@ -59,6 +64,7 @@ protected:
 private:
     PumpSegmentInputModel& model_;
     QScrollBar* scroll_ = nullptr;
+    std::vector<QLineEdit*> narrowFields_; // the constants and the line number: no wider than their texts
     bool drawing_ = false;
 };
 

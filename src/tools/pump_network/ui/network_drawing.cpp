@@ -59,14 +59,26 @@ NetworkDrawing::NetworkDrawing(PumpNetworkModel& model, FormView& view, QWidget*
     }
 }
 
+// The canvas at its own scale, or more where a row of fields reaches beyond
+// it. Measured once per size of the pane: the drawing asks for it at every stroke.
 QSize NetworkDrawing::minimumSizeHint() const
 {
+    if (least_.isValid())
+        return least_;
     QSize least(static_cast<int>(kCanvasWidth / kTwipsPerPixel), static_cast<int>(kCanvasHeight / kTwipsPerPixel));
     for (const FieldRow& row : rows_) {
         const QRect extent = rowExtent(row, row.place->at.x / kTwipsPerPixel, row.place->at.y / kTwipsPerPixel);
         least = least.expandedTo(QSize(extent.right() + 8, extent.bottom() + 8));
     }
+    least_ = least;
     return least;
+}
+
+void NetworkDrawing::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        least_ = QSize();
+    QWidget::changeEvent(event);
 }
 
 // The canvas fills the pane as far as it can without changing its shape;
@@ -83,7 +95,7 @@ QPointF NetworkDrawing::origin() const
     return {std::max(0.0, (width() - drawn.width()) / 2), std::max(0.0, (height() - drawn.height()) / 2)};
 }
 
-QPointF NetworkDrawing::toWidget(double x, double y) const
+QPointF NetworkDrawing::canvasToWidget(double x, double y) const
 {
     return origin() + QPointF(x, y) * (scale() / kTwipsPerPixel);
 }
@@ -105,7 +117,7 @@ QRect NetworkDrawing::rowExtent(const FieldRow& row, double x, double y) const
 void NetworkDrawing::placeRows()
 {
     for (const FieldRow& row : rows_) {
-        const QPointF at = toWidget(row.place->at.x, row.place->at.y);
+        const QPointF at = canvasToWidget(row.place->at.x, row.place->at.y);
         const QRect extent = rowExtent(row, at.x(), at.y());
         row.caption->setGeometry(extent.left(), extent.top(), row.captionWidth, extent.height());
         const int fieldWidth = row.edit->minimumWidth();
@@ -118,7 +130,7 @@ void NetworkDrawing::placeRows()
 // The frame round a destination's fields: its three rows and a caption line above them.
 QRectF NetworkDrawing::destinationFrame(const DestinationBox& box) const
 {
-    const QPointF corner = toWidget(box.topLeft.x, box.topLeft.y);
+    const QPointF corner = canvasToWidget(box.topLeft.x, box.topLeft.y);
     QRectF frame(corner, QSizeF(1, 1));
     for (const FieldRow& row : rows_)
         if (row.destination == box.line)
@@ -128,6 +140,7 @@ QRectF NetworkDrawing::destinationFrame(const DestinationBox& box) const
 
 void NetworkDrawing::resizeEvent(QResizeEvent* event)
 {
+    least_ = QSize(); // the fields may have taken their widths since
     placeRows();
     QWidget::resizeEvent(event);
 }
@@ -137,7 +150,7 @@ void NetworkDrawing::paintEvent(QPaintEvent*)
     QPainter p(this);
     p.setRenderHint(QPainter::Antialiasing);
     const double s = scale() / kTwipsPerPixel;
-    const auto at = [this](CanvasPoint point) { return toWidget(point.x, point.y); };
+    const auto at = [this](CanvasPoint point) { return canvasToWidget(point.x, point.y); };
 
     // The datum at the pump.
     p.setPen(QPen(Qt::gray, 1, Qt::DashLine));
@@ -175,7 +188,7 @@ void NetworkDrawing::paintEvent(QPaintEvent*)
         // A third of the way along, clear of the valve near the line's end.
         const QPointF along = at(longest->from) + (at(longest->to) - at(longest->from)) * 0.3;
         const bool vertical = longest->from.x == longest->to.x;
-        p.drawText(along + (vertical ? QPointF(6, 4) : QPointF(-4, -6)), QString::number(line));
+        p.drawText(along + (vertical ? QPointF(-14, 4) : QPointF(-4, -6)), QString::number(line));
     }
 
     // The pump: a circle and its arrow of flow.

@@ -22,10 +22,12 @@ public:
 
     QSize minimumSizeHint() const override;
     QSize sizeHint() const override { return minimumSizeHint(); }
+    QPointF canvasToWidget(double x, double y) const; // canvas twips to the widget's pixels
 
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
 
@@ -41,7 +43,6 @@ private:
     };
     double scale() const;
     QPointF origin() const;
-    QPointF toWidget(double x, double y) const; // canvas twips to the widget's pixels
     QPointF toCanvas(const QPointF& point) const;
     void placeRows();
     QRect rowExtent(const FieldRow& row, double x, double y) const;
@@ -50,6 +51,7 @@ private:
     PumpNetworkModel& model_;
     FormView& view_;
     std::vector<FieldRow> rows_;
+    mutable QSize least_; // minimumSizeHint, measured once per size
 };
 
 } // namespace kestrova
