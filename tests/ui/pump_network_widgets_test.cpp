@@ -6,6 +6,7 @@
 
 #include "../tools/pump_network/cooling_water_network.h"
 
+#include "forms/model/scripted_user_interface.h"
 #include "numeric/display_mask.h"
 #include "tools/piping/model/minor_loss_store.h"
 #include "tools/pump_network/model/pump_network_model.h"
@@ -164,6 +165,36 @@ private slots:
         QCOMPARE(grid->item(pump_network::ValveDropRow, 2)->background().color(), face); // line 1: no valve
         QVERIFY(grid->item(pump_network::ValveDropRow, 4)->background().color() != face); // line 3's valve
         QCOMPARE(grid->item(pump_network::FlowRow, 5)->toolTip(), QString("Flow Rate in Pipe Segment 4"));
+    }
+
+    // A kind 3 file opens in the pump network window, from File Open and
+    // from the recent files, and a file of another kind in its own tool.
+    void networkFilesOpenInTheirWindow()
+    {
+        FrameUnderTest under;
+        {
+            ScriptedUserInterface ui;
+            PumpNetworkModel tool(ui);
+            tool.Form_Load();
+            tool.useNetwork(NetworkState{}, coolingWaterPass().pipes);
+            tool.commit(pump_network::txtData(pump_network::Line5Flow), "60,000");
+            tool.setStrFileName(under.dir.filePath("loop.ksv").toStdString());
+            QVERIFY(tool.OpenSaveData("Save"));
+        }
+        QVERIFY(shownAndActive(under.frame));
+        under.frame.openFile(under.dir.filePath("loop.ksv"));
+        QWidget* form = frontForm(under.frame);
+        QCOMPARE(form->objectName(), QString("frmPumpSystem"));
+        QCOMPARE(under.frame.mdiArea()->activeSubWindow()->windowTitle(), QString("Pump System: loop.ksv"));
+        QCOMPARE(control<QLineEdit>(form, "txtData(0)")->text(), QString("60,000"));
+        QCOMPARE(control<QTableWidget>(form, "grdSummary")->item(pump_network::FlowRow, 5)->text(), QString("60,000"));
+        QVERIFY(under.frame.action("mnuFileMRU(1)")->text().contains("loop.ksv"));
+        under.frame.mdiArea()->activeSubWindow()->close();
+        QCOMPARE(under.frame.mdiArea()->subWindowList().size(), 0);
+        under.frame.action("mnuFileMRU(1)")->trigger();
+        QCOMPARE(frontForm(under.frame)->objectName(), QString("frmPumpSystem"));
+        QCOMPARE(control<QLineEdit>(frontForm(under.frame), "txtData(0)")->text(), QString("60,000"));
+        QVERIFY(under.frame.close());
     }
 
     // A press on a pipe opens the dialog on its line at any size of the

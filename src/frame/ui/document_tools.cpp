@@ -70,7 +70,9 @@ DocumentTool* OpenDocuments::showFromMenu(const std::string& menuAction)
 
 DocumentTool* OpenDocuments::show(Slot& slot)
 {
-    if (!slot.window) {
+    // A window closed a moment ago waits for its deferred deletion: it goes
+    // now, before its model, and the tool opens afresh.
+    if (!slot.window || slot.window->isHidden()) {
         delete slot.window;
         slot.model = slot.kind->makeModel(ui_);
         QWidget* form = slot.kind->makeWindow(*slot.model, ui_);
