@@ -29,13 +29,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     PhysicalPropertiesModel tool(ui, std::move(compounds));
     tool.Form_Activate();
     const int shown = std::min<int>(static_cast<int>(tool.compounds().size()), 16);
+    const PhysicalPropertiesState& shownState = tool.view();
     for (int position = 0; position < shown; ++position) {
         tool.dbcComp_Click(position);
-        for (int row = 0; row < PhysicalPropertiesModel::kRows; ++row)
-            fuzz::requireShowable(tool.txtPhysProp[static_cast<size_t>(row)], "a property");
-        for (int row = 0; row < 6; ++row) {
-            fuzz::requireShowable(tool.txtLTL[static_cast<size_t>(row)], "a lower limit");
-            fuzz::requireShowable(tool.txtUTL[static_cast<size_t>(row)], "an upper limit");
+        for (const TextControl& property : shownState.txtPhysProp)
+            fuzz::requireShowable(property.text, "a property");
+        for (size_t row = 0; row < shownState.txtLTL.size(); ++row) {
+            fuzz::requireShowable(shownState.txtLTL[row].text, "a lower limit");
+            fuzz::requireShowable(shownState.txtUTL[row].text, "an upper limit");
         }
         tool.GetPhysicalProperties(position % 2 ? FluidKind::Gas : FluidKind::Liquid, 77, [&] { tool.cmdSelect_Click(); });
     }
