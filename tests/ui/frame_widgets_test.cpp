@@ -47,6 +47,7 @@
 #include <QPushButton>
 #include <QTableWidget>
 #include <QTemporaryDir>
+#include <QStandardPaths>
 #include <QtTest>
 
 #include <cmath>
@@ -523,14 +524,17 @@ private slots:
 int runFormViewTests(int argc, char** argv); // form_view_test.cpp
 int runExceptionBarrierTests(int argc, char** argv); // exception_barrier_test.cpp
 int runPumpNetworkWidgetTests(int argc, char** argv); // pump_network_widgets_test.cpp
+int runHelpWidgetTests(int argc, char** argv); // help_widgets_test.cpp
 
 int main(int argc, char** argv)
 {
     GuardedApplication app(argc, argv);
+    QStandardPaths::setTestModeEnabled(true); // the help collection and such in a test place
     FrameWidgetsTest frame;
     DialogWidgetsTest dialogs;
     PrintingAndSmallFormsTest printing;
     return QTest::qExec(&frame, argc, argv) | QTest::qExec(&dialogs, argc, argv) | QTest::qExec(&printing, argc, argv) |
-           runFormViewTests(argc, argv) | runExceptionBarrierTests(argc, argv) | runPumpNetworkWidgetTests(argc, argv);
+           runFormViewTests(argc, argv) | runExceptionBarrierTests(argc, argv) | runPumpNetworkWidgetTests(argc, argv) |
+           runHelpWidgetTests(argc, argv);
 }
 #include "frame_widgets_test.moc"

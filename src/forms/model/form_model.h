@@ -50,6 +50,8 @@ public:
     virtual const ButtonControl* buttonOf(const Control& control) const { return registry_.find(control, registry_.buttons); }
     // The window's caption; empty keeps the one it has.
     virtual std::string windowCaption() const { return {}; }
+    // The context number of the form's help topic (help_contexts.h), which F1 opens.
+    virtual int helpTopic() const { return 1000; }
 
     // The control that is to take the focus next, handed over once.
     std::optional<Control> takeFocusRequest() { return std::exchange(focusRequest_, std::nullopt); }

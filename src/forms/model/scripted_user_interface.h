@@ -44,6 +44,7 @@ public:
     // The next of `segmentInputSteps` does what the user does in the dialog; without one it closes at once.
     void PumpSystemData(FormModel& segmentInput) override;
     void showRegimeMap(const std::string& orientation) override { regimeMapsShown.push_back(orientation); }
+    void showHelp(int context) override { helpShown.push_back(context); }
     // Keeps the staged row as the report found it, and answers `reportResult`.
     int runReport(const std::string& title, const std::string& reportFile, const std::string& stagingPath,
                   const std::string& table) override;
@@ -67,6 +68,7 @@ public:
     std::vector<std::string> pipeSelectors;
     std::vector<int> flowFluids;
     std::vector<std::string> regimeMapsShown;
+    std::vector<int> helpShown; // the help topics asked for, by context number
     int kValueCalls = 0;
     struct ReportRun {
         std::string title, reportFile, table;

@@ -24,6 +24,7 @@ inline Control cboUnits(int i) { return {"cboUnits", i}; }
 inline const Control cmdApply{"cmdApply"};
 inline const Control cmdClose{"cmdClose"};
 inline const Control cmdReset{"cmdReset"};
+inline const Control cmdHelp{"cmdHelp"};
 
 } // namespace kestrova::unit_field_dialog
 
@@ -127,6 +128,8 @@ public:
             cmdClose_Click();
         else if (control == unit_field_dialog::cmdReset)
             cmdReset_Click();
+        else if (control == unit_field_dialog::cmdHelp)
+            ui_.showHelp(helpTopic());
         else
             clickOther(control);
     }

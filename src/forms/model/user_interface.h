@@ -54,6 +54,9 @@ public:
     virtual void PumpSystemData(FormModel& segmentInput) = 0;
     // Shows a two-phase flow regime map form: "Horizontal" or "Vertical Up".
     virtual void showRegimeMap(const std::string& orientation) = 0;
+    // The help system at a topic by its context number (help_contexts.h); a
+    // number without a topic opens the contents.
+    virtual void showHelp(int context) = 0;
     // The report engine: runs the report template over the last row of a
     // staging table under a window title; 0 when all went well.
     virtual int runReport(const std::string& title, const std::string& reportFile, const std::string& stagingPath,
@@ -72,12 +75,5 @@ public:
 private:
     UserInterface& ui_;
 };
-
-// The help entries and buttons while the program has no help file.
-inline void showHelpUnavailable(UserInterface& ui)
-{
-    ui.ask("Kestrova", "Unable to display Help Contents. There is no Help associated with this project.",
-           MessageIcon::Warning, MessageButtons::Ok, MessageAnswer::Ok);
-}
 
 } // namespace kestrova

@@ -341,6 +341,7 @@ void FormView::render()
     rendering_ = true;
     if (const std::string caption = model_.windowCaption(); !caption.empty())
         form_.setWindowTitle(QString::fromStdString(caption)); // the window that holds the form follows its title
+    form_.setProperty(kHelpContextProperty, model_.helpTopic()); // what F1 opens
     renderFields();
     renderMessages();
     renderLists();

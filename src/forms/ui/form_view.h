@@ -47,6 +47,10 @@ const QColor& tintColour();
 // (Backspace, the arrows) are never refused.
 bool keyRefused(const QLineEdit& field, const QKeyEvent& key, KeyRule rule);
 
+// The property of a window that names its help topic by context number;
+// F1 opens the topic of the nearest window that has one.
+inline constexpr const char* kHelpContextProperty = "helpContext";
+
 class FormView : public QObject {
 public:
     // `form` is the window; `step` names what fails in a barrier's message.

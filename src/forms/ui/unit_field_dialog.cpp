@@ -50,6 +50,7 @@ QHBoxLayout* UnitFieldDialog::buttonRow(bool gasCalculator)
     if (gasCalculator)
         buttons->addWidget(view().button({"cmdPhysProps"}, "Get Physical Properties"));
     buttons->addWidget(view().button(cmdReset, "Reset Input Fields"));
+    buttons->addWidget(view().button(cmdHelp, "&Help"));
     buttons->addStretch();
     QPushButton* apply = view().button(cmdApply, "Apply Results");
     apply->setDefault(gasCalculator);

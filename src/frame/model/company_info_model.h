@@ -2,6 +2,7 @@
 // frmCompanyInfo's model: the company block that heads the data sheets, six
 // texts kept in section "Settings" of the settings store.
 
+#include "forms/model/help_contexts.h"
 #include "forms/model/form_model.h"
 
 #include <array>
@@ -16,6 +17,7 @@ class CompanyInfoModel : public FormModel {
     Q_OBJECT
 
 public:
+    int helpTopic() const override { return help::CompanyInformation; }
     static constexpr int kFields = 6;
     struct Field {
         const char* control; // txtCompany ...

@@ -1,5 +1,6 @@
 #include "frame/ui/frmMain.h"
 
+#include "frame/ui/help_system.h"
 #include "frame/ui/program_icon.h"
 
 #include "forms/store/settings_store.h"
@@ -61,6 +62,7 @@ frmMain::frmMain(SettingsStore& store, QWidget* parent)
     connect(mdi_, &QMdiArea::subWindowActivated, this,
             guarded("the activation of a window", ui_, [this](QMdiSubWindow*) { activateDocument(); }));
 
+    help_ = new HelpSystem(ui_, HelpSystem::defaultHelpFile(), HelpSystem::defaultCollectionFile(), this);
     commands_ = new FrameCommands(*this, ui_, [this](const QString& name) { runCommand(name); });
     commands_->toolbar()->installEventFilter(this);
 
@@ -98,7 +100,7 @@ void frmMain::runCommand(const QString& name)
         {"mnuViewCalculator", &frmMain::mnuViewCalculator_Click},
         {"mnuViewUnitsofMeasure", &frmMain::mnuViewUnitsofMeasure_Click},
         {"mnuHelpContents", &frmMain::mnuHelpContents_Click},
-        {"mnuHelpSearchForHelpOn", &frmMain::mnuHelpContents_Click},
+        {"mnuHelpSearchForHelpOn", &frmMain::mnuHelpSearchForHelpOn_Click},
         {"mnuHelpAbout", &frmMain::mnuHelpAbout_Click},
         {"mnuWindowTileVertical", &frmMain::tileVertically},
         {"mnuWindowArrangeIcons", &frmMain::arrangeIcons},
@@ -425,7 +427,12 @@ void frmMain::mnuViewUnitsofMeasure_Click()
 
 void frmMain::mnuHelpContents_Click()
 {
-    showHelpUnavailable(ui_);
+    help_->showContents();
+}
+
+void frmMain::mnuHelpSearchForHelpOn_Click()
+{
+    help_->showIndex();
 }
 
 void frmMain::mnuHelpAbout_Click()
@@ -475,6 +482,7 @@ void frmMain::closeEvent(QCloseEvent* event)
             return;
         }
     }
+    help_->close(); // the help goes with the frame
     const QRect g = normalGeometry();
     runGuarded("the saving of the frame's placement", [&] {
         model_.MDIForm_Unload({g.x() * 15.0, g.y() * 15.0, g.width() * 15.0, g.height() * 15.0}, isMinimized());

@@ -19,6 +19,7 @@ class QMdiSubWindow;
 namespace kestrova {
 
 class FrameCommands;
+class HelpSystem;
 class OpenDocuments;
 class SettingsStore;
 
@@ -36,6 +37,7 @@ public:
     QMdiArea* mdiArea() const { return mdi_; }
     QAction* action(const QString& name) const; // by control name, e.g. "mnuFileSave"
     QAction* toolbarButton(const QString& key) const;
+    HelpSystem& help() const { return *help_; }
 
     void setStatusText(const QString& text);
     void setToolbarButtonEnabled(const std::string& key, bool enabled);
@@ -78,6 +80,7 @@ private:
     void mnuViewCalculator_Click();
     void mnuViewUnitsofMeasure_Click();
     void mnuHelpContents_Click();
+    void mnuHelpSearchForHelpOn_Click();
     void mnuHelpAbout_Click();
 
     SettingsStore& store_;
@@ -87,6 +90,7 @@ private:
     FrameCommands* commands_ = nullptr;
     std::unique_ptr<OpenDocuments> documents_;
     QPointer<QMdiSubWindow> mapWindows_[2];
+    HelpSystem* help_ = nullptr;
     QPrinter printer_; // the printer set-up chosen stays for the run
 };
 

@@ -1,5 +1,7 @@
 #include "frame/ui/frmUnitOptions.h"
 
+#include "forms/ui/form_view.h"
+#include "forms/model/help_contexts.h"
 #include "forms/model/user_interface.h"
 #include "forms/ui/exception_barrier.h"
 
@@ -18,6 +20,7 @@ frmUnitOptions::frmUnitOptions(UserInterface& ui, SettingsStore& store, QWidget*
     : QDialog(parent), model_(ui, store), ui_(ui)
 {
     setObjectName("frmUnitOptions");
+    setProperty(kHelpContextProperty, help::UnitsOfMeasure);
     setWindowTitle("Units of Measure");
     ui_.setBusyPointer(true);
 

@@ -2,6 +2,7 @@
 
 #include "datasheets/model/data_sheet.h"
 #include "frame/ui/frmMain.h"
+#include "frame/ui/help_system.h"
 
 #include <QCoreApplication>
 
@@ -106,6 +107,11 @@ void GuiUserInterface::toolNotAvailable(const std::string& tool)
 {
     ask("Kestrova", "The " + tool + " tool is not available in this version of Kestrova.", MessageIcon::Information,
         MessageButtons::Ok, MessageAnswer::Ok);
+}
+
+void GuiUserInterface::showHelp(int context)
+{
+    frame_.help().showTopic(context);
 }
 
 void GuiUserInterface::showRegimeMap(const std::string& orientation)

@@ -37,6 +37,7 @@ public:
     bool GetPhysicalProperties(FluidKind fluid, Single temperature) override;
     void PumpSystemData(FormModel& segmentInput) override;
     void showRegimeMap(const std::string& orientation) override;
+    void showHelp(int context) override;
     // Lays the data sheet out from its template and the staged row, in a
     // print preview from which it is printed or saved as PDF.
     int runReport(const std::string& title, const std::string& reportFile, const std::string& stagingPath,

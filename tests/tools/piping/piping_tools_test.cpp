@@ -292,11 +292,16 @@ TEST(Reducers, FormulasOfTheGradualAndSuddenRows)
     contraction.commit(reducer::txtAngle(2), "30"); // an angle with no beta has no K
     EXPECT_EQ(kOf(contraction, 2), "");
 
+    contraction.click(reducer::cmdHelp); // each window asks for its own topic
+    EXPECT_EQ(ui.helpShown, std::vector<int>{1630});
+
     ReducerModel enlargement(ReducerKind::Enlargement, ui);
     typeRow(enlargement, 0, "30", "0.5");
     EXPECT_EQ(kOf(enlargement, 0), "0.381");
     typeRow(enlargement, 1, "90", "0.5");
     EXPECT_EQ(kOf(enlargement, 1), "0.563");
+    enlargement.click(reducer::cmdHelp);
+    EXPECT_EQ(ui.helpShown, (std::vector<int>{1630, 1640}));
     typeRow(enlargement, 6, nullptr, "0.5");
     EXPECT_EQ(kOf(enlargement, 6), "0.563");
     EXPECT_TRUE(ui.messages.empty());

@@ -507,3 +507,15 @@ TEST_F(PressureDropTest, WaterFromThePropertiesToolGivesTheSameTwoPhaseLineAsWat
     EXPECT_EQ(typed.view().txtDisplay[17].text, fetchedRegime);
     EXPECT_NEAR(typed.view().record.PressureDrop, fetchedDrop, 1e-4 * fetchedDrop);
 }
+
+TEST_F(PressureDropTest, HelpWithEquationsOpensTheTopicOfItsTab)
+{
+    // The three tabs' buttons ask for the program's own context numbers, and
+    // F1 anywhere in the window follows the tab in front.
+    for (int t = 0; t < 3; ++t) {
+        tool.SSTab1_Click(t);
+        tool.click(pressure_drop::cmdHelp(t));
+        EXPECT_EQ(tool.helpTopic(), 1190 + 10 * t);
+    }
+    EXPECT_EQ(ui.helpShown, (std::vector<int>{1190, 1200, 1210}));
+}

@@ -3,6 +3,7 @@
 // and actual gas volumes, liquid gallons and mass, in American or metric
 // units, and the mass flow it hands back through GetFlowrateConversion.
 
+#include "forms/model/help_contexts.h"
 #include "forms/model/form_model.h"
 #include "numeric/single.h"
 
@@ -61,6 +62,7 @@ class FlowConversionsModel : public FormModel, private FlowConversionsState {
     Q_OBJECT
 
 public:
+    int helpTopic() const override { return help::FlowConversions; }
     // The settings store may be absent: then nothing is read or written.
     explicit FlowConversionsModel(SettingsStore* store, QObject* parent = nullptr);
 

@@ -2,6 +2,7 @@
 // The gas density tool (frmGasDensity) without its window: the density of a
 // real gas from temperature, pressure, molecular weight and Z.
 
+#include "forms/model/help_contexts.h"
 #include "forms/model/unit_field_dialog_model.h"
 
 #include <functional>
@@ -24,6 +25,7 @@ inline const Control cmdTable{"cmdTable"}; // Z from the compressibility tool
 
 class GasDensityModel : public UnitFieldDialogModel<GasDensityData, gas_density::kFields> {
 public:
+    int helpTopic() const override { return help::GasDensity; }
     static constexpr const char* kTitle = "Gas Density";
 
     explicit GasDensityModel(UserInterface& ui, QObject* parent = nullptr);

@@ -4,7 +4,7 @@
 // event routines by control.
 
 #include "tools/orifice/model/orifice_model.h"
-
+#include "forms/model/user_interface.h"
 
 #include "units/field_kinds.h"
 
@@ -180,6 +180,8 @@ void OrificeModel::click(const Control& control)
         cmdProperties_Click(control.index);
     else if (control.family == "cmdReset")
         cmdReset_Click();
+    else if (control.family == "cmdHelp")
+        ui_.showHelp(control.index == 1 ? help::OrificeGas : help::OrificeLiquid);
 }
 
 void OrificeModel::choose(const Control& list, int entry)

@@ -54,6 +54,7 @@ inline Control cboPipeMaterial(int tab) { return {"cboPipeMaterial", tab}; }
 inline Control cmdTable(int i) { return {"cmdTable", i}; }
 inline Control cmdProperties(int tab) { return {"cmdProperties", tab}; }
 inline Control cmdReset(int tab) { return {"cmdReset", tab}; }
+inline Control cmdHelp(int tab) { return {"cmdHelp", tab}; } // "Help with Equations" of the tab
 inline Control txtProject(int tab) { return {"txtProject", tab}; }
 inline Control txtTag(int tab) { return {"txtTag", tab}; }
 inline Control Frame1(int i) { return {"Frame1", i}; }

@@ -4,6 +4,7 @@
 // names, with the calculation run after each change. frmOrificePlates only
 // mirrors it.
 
+#include "forms/model/help_contexts.h"
 #include "forms/model/document_tool.h"
 #include "forms/model/form_model.h"
 #include "forms/model/unit_fields.h"
@@ -91,6 +92,7 @@ public:
     void choose(const Control& list, int entry) override;
     void keyTyped(const Control& field) override;
     std::string windowCaption() const override { return caption; }
+    int helpTopic() const override { return tab == 0 ? help::OrificeLiquid : help::OrificeGas; }
 
     // --- the headless companion's way in: a case set up without running ----------
     void useRecord(const OrificeData& record); // the record taken whole, every field shown again

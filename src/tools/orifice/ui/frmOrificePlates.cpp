@@ -262,10 +262,8 @@ QLayout* frmOrificePlates::commandRow(int t)
         });
     });
     buttons->addWidget(guides);
-    auto* help = new QPushButton("Help with Equations");
-    help->setObjectName(QString("cmdHelp(%1)").arg(t));
+    QPushButton* help = view().button(cmdHelp(t), "Help with Equations");
     help->setAutoDefault(false);
-    connect(help, &QPushButton::clicked, this, [this] { view().guard([this] { showHelpUnavailable(ui_); }); });
     buttons->addWidget(help);
     buttons->addStretch();
     return buttons;

@@ -3,6 +3,7 @@
 // of 35 fittings and the K of enlargements, contractions and other losses,
 // summed into K1, K2 and K3, and remembered per slot.
 
+#include "forms/model/help_contexts.h"
 #include "forms/model/form_model.h"
 #include "numeric/single.h"
 
@@ -50,6 +51,7 @@ class MinorLossesModel : public FormModel, private MinorLossesState {
     Q_OBJECT
 
 public:
+    int helpTopic() const override { return help::MinorLosses; }
     explicit MinorLossesModel(UserInterface& ui, QObject* parent = nullptr);
 
     const MinorLossesState& view() const { return *this; }

@@ -3,6 +3,7 @@
 // classes, the materials of each kind from the data bases, the size grid of
 // the chosen material, its roughness new or used, and SelectPipeID.
 
+#include "forms/model/help_contexts.h"
 #include "forms/model/form_model.h"
 #include "tools/piping/model/pipe_data.h"
 #include "units/basConversions.h"
@@ -66,6 +67,7 @@ class PipeModel : public FormModel, private PipeState {
     Q_OBJECT
 
 public:
+    int helpTopic() const override { return help::PipeSizes; }
     static constexpr const char* kTitle = "Pipe and Tubing Sizes";
 
     // The data bases and roughness files are looked for in `dataFolder`.

@@ -238,6 +238,8 @@ void ReducerModel::click(const Control& control)
         cmdReset_Click();
     else if (control == reducer::cmdClose)
         cmdClose_Click();
+    else if (control == reducer::cmdHelp)
+        ui_.showHelp(helpTopic());
 }
 
 } // namespace kestrova

@@ -4,6 +4,7 @@
 // its K, and their total for the minor losses tool. The two are twins that
 // differ in the gradual formula and in their words.
 
+#include "forms/model/help_contexts.h"
 #include "forms/model/form_model.h"
 #include "numeric/single.h"
 
@@ -27,6 +28,7 @@ inline Control txtKValue(int row) { return {"txtKValue", row}; }
 inline const Control txtTotalK{"txtTotalK"};
 inline const Control cmdApply{"cmdApply"};
 inline const Control cmdReset{"cmdReset"};
+inline const Control cmdHelp{"cmdHelp"}; // "Help with Equations"
 inline const Control cmdClose{"cmdClose"};
 } // namespace reducer
 
@@ -68,6 +70,10 @@ public:
 
     void commit(const Control& field, const std::string& text) override;
     void click(const Control& control) override;
+    int helpTopic() const override
+    {
+        return kind_ == ReducerKind::Contraction ? help::Contractions : help::Enlargements;
+    }
 
 private:
     ReducerStore& store() const;

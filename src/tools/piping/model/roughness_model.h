@@ -2,6 +2,7 @@
 // The pipe roughness picker (frmRoughness) without its window: a fixed table
 // of materials, new or used, or a typed value.
 
+#include "forms/model/help_contexts.h"
 #include "forms/model/form_model.h"
 #include "units/basConversions.h"
 #include "numeric/single.h"
@@ -49,6 +50,7 @@ class RoughnessModel : public FormModel, private RoughnessState {
     Q_OBJECT
 
 public:
+    int helpTopic() const override { return help::Roughness; }
     static constexpr const char* kTitle = "Absolute Roughness";
 
     RoughnessModel(UserInterface& ui, SettingsStore* store, QObject* parent = nullptr);

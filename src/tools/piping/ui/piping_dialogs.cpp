@@ -440,10 +440,8 @@ frmReducer::frmReducer(ReducerModel& model, UserInterface& ui, QWidget* parent)
 
     QPushButton* apply = view().button(cmdApply, "Apply Results");
     apply->setDefault(true);
-    auto* help = new QPushButton("Help with Equations", this);
-    help->setObjectName("cmdHelp");
+    QPushButton* help = view().button(reducer::cmdHelp, "Help with Equations");
     help->setAutoDefault(false);
-    connect(help, &QPushButton::clicked, this, [this] { view().guard([this] { showHelpUnavailable(ui_); }); });
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(view().button(cmdReset, "Reset All Input Data"));
     buttons->addWidget(help);

@@ -2,6 +2,8 @@
 // each field, the state each control starts in, and the narrow way the
 // window reaches the tool's event routines by control.
 
+#include "forms/model/help_contexts.h"
+#include "forms/model/user_interface.h"
 #include "tools/pressure_drop/model/pressure_drop_model.h"
 
 
@@ -170,6 +172,8 @@ void PressureDropModel::click(const Control& control)
         cmdProperties_Click(control.index);
     else if (control.family == "cmdReset")
         cmdReset_Click(control.index);
+    else if (control.family == "cmdHelp")
+        ui_.showHelp(help::PressureDropLiquid + 10 * std::clamp(control.index, 0, 2));
 }
 
 void PressureDropModel::choose(const Control& list, int entry)

@@ -64,6 +64,7 @@ inline Control txtDisplay(int i) { return {"txtDisplay", i}; }
 inline Control cmdTable(int i) { return {"cmdTable", i}; }
 inline Control cmdProperties(int i) { return {"cmdProperties", i}; }
 inline Control cmdReset(int tab) { return {"cmdReset", tab}; }
+inline Control cmdHelp(int tab) { return {"cmdHelp", tab}; } // "Help with Equations" of the tab
 inline Control txtProject(int tab) { return {"txtProject", tab}; }
 inline Control txtTag(int tab) { return {"txtTag", tab}; }
 inline Control Label1(int i) { return {"Label1", i}; }

@@ -84,6 +84,7 @@ public:
     void choose(const Control& list, int entry) override;
     void keyTyped(const Control& field) override;
     std::string windowCaption() const override { return caption; }
+    int helpTopic() const override { return helpContext; }
 
     // --- the headless companion's way in: a case set up without running ----------
     // An option or a tab set without its click routine: the form follows, nothing runs.

@@ -150,7 +150,11 @@ QWidget* frmPressureDrop::projectRows(int tab)
     grid->addWidget(view().field(txtProject(tab)), 0, 1);
     grid->addWidget(new QLabel("Tag/Line No.:"), 1, 0);
     grid->addWidget(view().field(txtTag(tab)), 1, 1);
-    grid->addWidget(resetButton(tab), 2, 1, Qt::AlignRight);
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(view().button(cmdHelp(tab), "Help with Equations"));
+    buttons->addWidget(resetButton(tab));
+    grid->addLayout(buttons, 2, 1);
     return holder;
 }
 

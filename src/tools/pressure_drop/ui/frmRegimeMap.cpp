@@ -1,5 +1,7 @@
 #include "tools/pressure_drop/ui/frmRegimeMap.h"
 
+#include "forms/ui/form_view.h"
+#include "forms/model/help_contexts.h"
 #include "forms/model/user_interface.h"
 #include "hydraulics/basTransportFunctions.h"
 
@@ -168,6 +170,7 @@ void RegimeMapLegend::paintEvent(QPaintEvent*)
 frmRegimeMap::frmRegimeMap(bool horizontal, UserInterface& ui, QWidget* parent) : QWidget(parent), ui_(ui)
 {
     setObjectName(horizontal ? "frm2PhaseHorizontal" : "frm2PhaseVertical");
+    setProperty(kHelpContextProperty, horizontal ? help::RegimeMapHorizontal : help::RegimeMapVertical);
     const QString title = horizontal ? "2-Phase Horizontal Flow Regime Map" : "2-Phase Vertical Flow Regime Map";
     setWindowTitle(title);
     status_ = title;

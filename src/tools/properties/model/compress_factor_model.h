@@ -3,6 +3,7 @@
 // from reduced conditions by Redlich-Kwong, Soave-Redlich-Kwong (with its
 // hydrogen form) or Peng-Robinson, and GetZValue for the tools that need a Z.
 
+#include "forms/model/help_contexts.h"
 #include "forms/model/unit_field_dialog_model.h"
 
 #include <array>
@@ -32,6 +33,7 @@ inline const Control inputsFrame{"Frame1", 1};
 
 class CompressFactorModel : public UnitFieldDialogModel<CompressFactorData, compress_factor::kFields> {
 public:
+    int helpTopic() const override { return help::Compressibility; }
     static constexpr const char* kTitle = "Compressibility Factor";
 
     // `dataBaseValid` says whether the physical properties tool can be asked.

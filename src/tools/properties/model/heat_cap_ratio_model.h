@@ -2,6 +2,7 @@
 // The heat capacity ratio tool (frmHeatCapRatio) without its window: k from a
 // real gas calculation on reduced conditions, or one of seventeen typical values.
 
+#include "forms/model/help_contexts.h"
 #include "forms/model/unit_field_dialog_model.h"
 
 #include <array>
@@ -39,6 +40,7 @@ inline const Control realGasFrame{"Frame1", 0};
 
 class HeatCapRatioModel : public UnitFieldDialogModel<HeatCapRatioData, heat_cap_ratio::kFields> {
 public:
+    int helpTopic() const override { return help::HeatCapacityRatio; }
     static constexpr const char* kTitle = "Heat Capacity Ratio";
 
     explicit HeatCapRatioModel(UserInterface& ui, bool dataBaseValid = true, QObject* parent = nullptr);

@@ -4,6 +4,7 @@
 // the units of each row, and GetPhysicalProperties, which applies them to the
 // shared PhysProps record.
 
+#include "forms/model/help_contexts.h"
 #include "forms/model/form_model.h"
 #include "forms/model/user_interface.h"
 #include "tools/properties/model/compound_data_base.h"
@@ -53,6 +54,7 @@ class PhysicalPropertiesModel : public FormModel, private PhysicalPropertiesStat
     Q_OBJECT
 
 public:
+    int helpTopic() const override { return help::PhysicalProperties; }
     static constexpr int kRows = physical_properties::kRows;
     static constexpr const char* kTitle = "Physical Properties";
 

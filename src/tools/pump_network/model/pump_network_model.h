@@ -6,6 +6,7 @@
 // events of the window and the segment dialog, the kind 3 file and the data
 // sheet. frmPumpSystem only mirrors it.
 
+#include "forms/model/help_contexts.h"
 #include "forms/model/document_tool.h"
 #include "forms/model/form_model.h"
 #include "tools/pump_network/calc/net_calc.h"
@@ -50,6 +51,7 @@ class PumpNetworkModel : public FormModel, public DocumentTool, private PumpNetw
     Q_OBJECT
 
 public:
+    int helpTopic() const override { return help::PumpNetwork; }
     static constexpr const char* kTitle = "Pump System";
     static constexpr int kFields = pump_network::kFields;
     static constexpr int kUnitLists = pump_network::kUnitLists;

@@ -6,6 +6,7 @@
 // requests it leaves for the network tool (copies down the network, a
 // vapour pressure for line 1).
 
+#include "forms/model/help_contexts.h"
 #include "forms/model/form_model.h"
 #include "forms/model/unit_fields.h"
 #include "tools/pump_network/calc/net_calc.h"
@@ -55,6 +56,7 @@ class PumpSegmentInputModel : public FormModel, private PumpSegmentInputState {
     Q_OBJECT
 
 public:
+    int helpTopic() const override { return help::PumpSegmentInput; }
     static constexpr const char* kTitle = "Pump Network Input Data";
 
     // `segments` are the network's pipe data, edited in place; `passOnMove`
