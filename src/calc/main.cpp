@@ -2,6 +2,7 @@
 // standard input and answers each request with one line on standard output.
 
 #include "calc/calc_protocol.h"
+#include "calc/json_result.h"
 #include "calc/open_file.h"
 
 #include <iostream>
@@ -32,20 +33,36 @@ int answerStandardInput()
     return std::cin.bad() ? 2 : 0;
 }
 
+// --open FILE...: one answer per file, in order. With several files each
+// answer names its file first, so that a folder of saved cases can be
+// rechecked in one run; every file is answered before the exit status says
+// whether any failed.
+int answerFiles(int count, char** files)
+{
+    bool allOpened = true;
+    for (int i = 0; i < count; ++i) {
+        bool ok = false;
+        const std::string answer = kestrova::calc::openProjectFile(files[i], ok);
+        if (count == 1)
+            std::cout << answer << '\n';
+        else
+            std::cout << "{\"file\": " << kestrova::calc::quoted(files[i]) << ", " << answer.substr(1) << '\n';
+        allOpened = allOpened && ok;
+    }
+    return allOpened ? 0 : 1;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
     const std::string option = argc > 1 ? argv[1] : "";
-    if (argc == 3 && option == "--open") {
-        bool ok = false;
-        std::cout << kestrova::calc::openProjectFile(argv[2], ok) << '\n';
-        return ok ? 0 : 1;
-    }
+    if (argc >= 3 && option == "--open")
+        return answerFiles(argc - 2, argv + 2);
     if (argc > 1) {
         std::cerr << "kestrova-calc: unknown arguments\n"
                   << "usage: kestrova-calc < requests.jsonl\n"
-                  << "       kestrova-calc --open FILE.ksv\n";
+                  << "       kestrova-calc --open FILE.ksv [FILE.ksv ...]\n";
         return 2;
     }
     return answerStandardInput();

@@ -36,5 +36,17 @@ printf '\003\000rest' > "$work/network.ksv"; refused "$work/network.ksv" "This P
 head -c 300 "$examples/liquid-water-6in.ksv" > "$work/short.ksv"; refused "$work/short.ksv" "damaged or incomplete"
 refused "$work" "File does not exist."
 
+# Several files: one answer per file in order, each naming its file; a damaged
+# file among good ones fails the exit status only after every file is answered.
+out=$("$calc" --open "$examples/liquid-water-6in.ksv" "$work/short.ksv" "$examples/orifice-water-4in.ksv"); status=$?
+[ "$status" -eq 1 ] || fail "--open of three files with one damaged exited $status"
+[ "$(printf '%s\n' "$out" | wc -l)" -eq 3 ] || fail "--open of three files: $(printf '%s\n' "$out" | wc -l) answers"
+first=$(printf '%s\n' "$out" | sed -n 1p) second=$(printf '%s\n' "$out" | sed -n 2p) third=$(printf '%s\n' "$out" | sed -n 3p)
+case "$first" in '{"file": "'*'liquid-water-6in.ksv", "ok": true, "kind": 2'*'"txtData(10)": "6.59"'*) ;; *) fail "first of three: $first" ;; esac
+case "$second" in '{"file": "'*'short.ksv", "ok": false, "error": '*'damaged or incomplete'*) ;; *) fail "second of three: $second" ;; esac
+case "$third" in '{"file": "'*'orifice-water-4in.ksv", "ok": true, "kind": 1'*) ;; *) fail "third of three: $third" ;; esac
+out=$("$calc" --open "$examples/liquid-water-6in.ksv" "$examples/gas-steam-4in.ksv"); status=$?
+[ "$status" -eq 0 ] || fail "--open of two good files exited $status"
+
 [ "$failures" -eq 0 ] && echo "all files answered as expected"
 exit "$failures"
