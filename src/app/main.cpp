@@ -1,5 +1,7 @@
 // Kestrova: the start of the desktop program. One instance per user; the
-// splash while the frame loads; the disclaimer while its flag is set.
+// splash while the frame loads; the disclaimer while its flag is set; then
+// the project files named on the command line, each in the tool of its kind.
+// A second start hands its files to the first and ends.
 
 #include "frame/ui/auxiliary_dialogs.h"
 #include "frame/ui/frmMain.h"
@@ -26,6 +28,16 @@ void waitShowing(int milliseconds)
     loop.exec(QEventLoop::ExcludeUserInputEvents);
 }
 
+// The files named on the command line (Qt's own options are taken out by then).
+QStringList filesToOpen()
+{
+    QStringList files;
+    for (const QString& argument : QApplication::arguments().mid(1))
+        if (!argument.startsWith('-'))
+            files << argument;
+    return files;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -36,7 +48,7 @@ int main(int argc, char** argv)
     QApplication::setApplicationVersion(KESTROVA_VERSION);
     QApplication::setWindowIcon(kestrova::programIcon());
 
-    kestrova::SingleInstance instance("kestrova-" + qEnvironmentVariable("USER", "user"));
+    kestrova::SingleInstance instance("kestrova-" + qEnvironmentVariable("USER", "user"), filesToOpen());
     if (instance.anotherIsRunning())
         return 0;
     if (instance.anotherIsSilent()) {
@@ -61,6 +73,15 @@ int main(int argc, char** argv)
         frame.raise();
         frame.activateWindow();
     });
+    // Files handed over while the disclaimer stands wait for it.
+    bool started = false;
+    QStringList waiting = filesToOpen();
+    const auto openFiles = [&frame](const QStringList& files) {
+        for (const QString& file : files)
+            frame.openFile(file);
+    };
+    QObject::connect(&instance, &kestrova::SingleInstance::filesRequested, &frame,
+                     [&](const QStringList& files) { started ? openFiles(files) : void(waiting << files); });
 
     if (showDisclaimer) {
         kestrova::frmReadDisclaimer disclaimer(frame.userInterface(), store, showDisclaimer, &frame);
@@ -70,5 +91,7 @@ int main(int argc, char** argv)
     } else {
         QApplication::restoreOverrideCursor();
     }
+    started = true;
+    openFiles(waiting);
     return app.exec();
 }

@@ -525,6 +525,7 @@ int runFormViewTests(int argc, char** argv); // form_view_test.cpp
 int runExceptionBarrierTests(int argc, char** argv); // exception_barrier_test.cpp
 int runPumpNetworkWidgetTests(int argc, char** argv); // pump_network_widgets_test.cpp
 int runHelpWidgetTests(int argc, char** argv); // help_widgets_test.cpp
+int runSingleInstanceTests(int argc, char** argv); // single_instance_test.cpp
 
 int main(int argc, char** argv)
 {
@@ -535,6 +536,6 @@ int main(int argc, char** argv)
     PrintingAndSmallFormsTest printing;
     return QTest::qExec(&frame, argc, argv) | QTest::qExec(&dialogs, argc, argv) | QTest::qExec(&printing, argc, argv) |
            runFormViewTests(argc, argv) | runExceptionBarrierTests(argc, argv) | runPumpNetworkWidgetTests(argc, argv) |
-           runHelpWidgetTests(argc, argv);
+           runHelpWidgetTests(argc, argv) | runSingleInstanceTests(argc, argv);
 }
 #include "frame_widgets_test.moc"
