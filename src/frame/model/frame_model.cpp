@@ -1,4 +1,5 @@
 #include "frame/model/frame_model.h"
+#include "forms/store/program_files.h"
 
 #include "datasheets/model/data_sheet.h"
 #include "forms/model/document_tool.h"
@@ -32,7 +33,7 @@ bool isValidDataBaseFile(const std::string& path)
 
 std::string defaultDataBaseLocation()
 {
-    return QDir(QCoreApplication::applicationDirPath()).filePath("compounds.sqlite").toStdString();
+    return programFile("compounds.sqlite").toStdString();
 }
 
 FrameModel::~FrameModel()
@@ -195,7 +196,7 @@ void FrameModel::mnuFilePrintDataSheet_Click(DocumentTool* active)
 {
     ui_.setStatusText("Print Data Sheet");
     if (active)
-        active->PrintDataSheet(DataSheetPrinter(ui_, store_, QCoreApplication::applicationDirPath(), userDataFolder()));
+        active->PrintDataSheet(DataSheetPrinter(ui_, store_, programDataFolder(), userDataFolder()));
 }
 
 } // namespace kestrova

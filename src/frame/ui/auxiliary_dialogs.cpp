@@ -1,4 +1,5 @@
 #include "frame/ui/auxiliary_dialogs.h"
+#include "forms/store/program_files.h"
 
 #include "frame/ui/program_icon.h"
 
@@ -199,7 +200,7 @@ frmDisclaimer::frmDisclaimer(UserInterface& ui, QWidget* parent) : QDialog(paren
     layout->addWidget(ok, 0, Qt::AlignRight);
     resize(560, 420);
 
-    QFile file(QDir(QCoreApplication::applicationDirPath()).filePath("disclaimer.txt"));
+    QFile file(programFile("disclaimer.txt"));
     if (file.open(QIODevice::ReadOnly))
         txtText_->setPlainText(QString::fromUtf8(file.readAll()));
     else

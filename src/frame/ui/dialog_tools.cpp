@@ -4,6 +4,7 @@
 // it through the entry point of its model, on the same made tool.
 
 #include "frame/ui/gui_user_interface.h"
+#include "forms/store/program_files.h"
 
 #include "forms/store/settings_store.h"
 #include "frame/model/frame_model.h"
@@ -29,7 +30,7 @@ const char* kNoDataBase = "The physical properties data base cannot be found. Us
 
 QString programFolder()
 {
-    return QCoreApplication::applicationDirPath();
+    return programDataFolder();
 }
 
 // A model loaded as its form loads, before its window is made over it.

@@ -1,4 +1,5 @@
 #include "frame/ui/help_system.h"
+#include "forms/store/program_files.h"
 
 #include "forms/model/help_contexts.h"
 #include "forms/model/user_interface.h"
@@ -53,7 +54,7 @@ HelpSystem::~HelpSystem()
 
 QString HelpSystem::defaultHelpFile()
 {
-    return QDir(QCoreApplication::applicationDirPath()).filePath("kestrova.qch");
+    return programFile("kestrova.qch");
 }
 
 QString HelpSystem::defaultCollectionFile()

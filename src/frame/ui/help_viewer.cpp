@@ -3,6 +3,7 @@
 #include "frame/ui/program_icon.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QDesktopServices>
 #include <QDockWidget>
 #include <QHelpContentWidget>
@@ -148,6 +149,20 @@ void HelpViewer::buildToolbar()
 void HelpViewer::showPage(const QUrl& url)
 {
     browser_->setSource(url);
+    present();
+}
+
+// Asked from a modal dialog, the viewer stands over that dialog until it is
+// closed (a window under a modal dialog takes no input); asked from the
+// frame, it stands beside the frame.
+void HelpViewer::present()
+{
+    QWidget* modal = QApplication::activeModalWidget();
+    const Qt::WindowModality wanted = modal && modal != this ? Qt::ApplicationModal : Qt::NonModal;
+    if (windowModality() != wanted) {
+        hide(); // a window's modality changes while it is hidden
+        setWindowModality(wanted);
+    }
     show();
     raise();
     activateWindow();
@@ -173,9 +188,7 @@ void HelpViewer::showIndex()
     indexKey_->clear();
     if (browser_->source().isEmpty())
         showPage(home_);
-    show();
-    raise();
-    activateWindow();
+    present();
     indexKey_->setFocus();
 }
 

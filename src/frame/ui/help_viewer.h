@@ -40,6 +40,7 @@ private:
     void buildToolbar();
     void print();
     void followPage(); // the caption and the contents entry of the page shown
+    void present();    // shown, in front, and usable over a modal dialog
 
     QHelpEngine& engine_;
     QUrl home_;
