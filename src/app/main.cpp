@@ -48,7 +48,8 @@ int main(int argc, char** argv)
     QApplication::setApplicationVersion(KESTROVA_VERSION);
     QApplication::setWindowIcon(kestrova::programIcon());
 
-    kestrova::SingleInstance instance("kestrova-" + qEnvironmentVariable("USER", "user"), filesToOpen());
+    const QStringList files = filesToOpen();
+    kestrova::SingleInstance instance("kestrova-" + qEnvironmentVariable("USER", "user"), files);
     if (instance.anotherIsRunning())
         return 0;
     if (instance.anotherIsSilent()) {
@@ -75,7 +76,7 @@ int main(int argc, char** argv)
     });
     // Files handed over while the disclaimer stands wait for it.
     bool started = false;
-    QStringList waiting = filesToOpen();
+    QStringList waiting = files;
     const auto openFiles = [&frame](const QStringList& files) {
         for (const QString& file : files)
             frame.openFile(file);

@@ -187,7 +187,7 @@ void HelpViewer::showIndex()
     navigation_->setCurrentIndex(1);
     indexKey_->clear();
     if (browser_->source().isEmpty())
-        showPage(home_);
+        browser_->setSource(home_);
     present();
     indexKey_->setFocus();
 }

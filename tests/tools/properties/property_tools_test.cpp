@@ -338,3 +338,41 @@ TEST_F(DamagedCompoundsTest, ATableThatCannotBeReadToItsEndIsRefusedNotShortened
     }
     EXPECT_TRUE(refused);
 }
+
+// The Properties button of both gas dialogs: without the data base the
+// program's message under the dialog's title and nothing taken; closed
+// without applying, nothing taken; applied, the gas's constants in the fields
+// and the name on the frame.
+TEST(GasDialogProperties, NoDataBaseACancelAndAnAppliedGas)
+{
+    using unit_field_dialog::txtData;
+    globalUnits() = GlobalUnits{};
+    physProps() = PhysProps{};
+    physProps().criticalTemperature = -116.63f;
+    physProps().criticalPressure = 667.8f;
+    physProps().acentricFactor = 0.011f;
+    physProps().heatCapacity = 35.7f;
+    physProps().gasName = "Methane";
+
+    ScriptedUserInterface ui;
+    CompressFactorModel missing(ui, nullptr, false);
+    const std::string before = missing.textOf(txtData(compress_factor::CriticalPressure))->text;
+    missing.cmdPhysProps_Click();
+    ASSERT_EQ(ui.messages.size(), 1u);
+    EXPECT_EQ(ui.messages.back().title, "Compressibility Factor");
+    EXPECT_NE(ui.messages.back().text.find("cannot be found"), std::string::npos);
+    EXPECT_EQ(missing.textOf(txtData(compress_factor::CriticalPressure))->text, before);
+
+    HeatCapRatioModel ratio(ui);
+    ui.propertiesApplied = {false};
+    ratio.cmdPhysProps_Click();
+    EXPECT_TRUE(propertiesCancelled());
+    EXPECT_EQ(ratio.textOf(txtData(heat_cap_ratio::CriticalPressure))->text, before);
+    ui.propertiesApplied = {true};
+    ratio.cmdPhysProps_Click();
+    EXPECT_FALSE(propertiesCancelled());
+    EXPECT_EQ(ratio.textOf(txtData(heat_cap_ratio::CriticalPressure))->text, "667.80");
+    EXPECT_EQ(ratio.textOf(txtData(heat_cap_ratio::CriticalTemperature))->text, "-116.63");
+    EXPECT_EQ(ui.messages.size(), 1u); // no more messages
+    physProps() = PhysProps{};
+}

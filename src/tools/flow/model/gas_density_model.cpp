@@ -1,5 +1,6 @@
 #include "tools/flow/model/gas_density_model.h"
 
+#include "units/field_kinds.h"
 #include "forms/model/user_interface.h"
 #include "forms/store/global_units.h"
 #include "numeric/checked_math.h"
@@ -12,11 +13,9 @@ using namespace gas_density;
 
 namespace {
 
-const FieldKind kTemperature{"Temperature", TemperatureToUnit, TemperatureFromUnit,
-                             {"##,##0.00", "##,##0.00", "##,##0.00", "##,##0.00"}};
-const FieldKind kPressure{"Pressure", PressureToUnit, PressureFromUnit,
-                          {"##,##0.00", "##,##0.00", "##,##0.00", "##,##0.00", "##,##0.00", "##,##0.00", "##,##0.00",
-                           "##,##0.00"}};
+// Temperatures and pressures in the masks the document tools give them.
+const FieldKind& kTemperature = field_kinds::temperature;
+const FieldKind& kPressure = field_kinds::pressure;
 const FieldKind kDensity{"Density", DensityToUnit, DensityFromUnit,
                          {"##,##0.0000", "##,##0.0000", "##,##0.0000", "##,##0.000"}};
 

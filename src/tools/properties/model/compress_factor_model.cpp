@@ -1,5 +1,6 @@
 #include "tools/properties/model/compress_factor_model.h"
 
+#include "units/field_kinds.h"
 #include "forms/model/user_interface.h"
 #include "forms/store/global_units.h"
 #include "forms/store/settings_store.h"
@@ -14,11 +15,9 @@ using namespace compress_factor;
 
 namespace {
 
-const FieldKind kTemperature{"Temperature", TemperatureToUnit, TemperatureFromUnit,
-                             {"##,##0.00", "##,##0.00", "##,##0.00", "##,##0.00"}};
-const FieldKind kPressure{"Pressure", PressureToUnit, PressureFromUnit,
-                          {"##,##0.00", "##,##0.00", "##,##0.00", "##,##0.00", "##,##0.00", "##,##0.00", "##,##0.00",
-                           "##,##0.00"}};
+// Temperatures and pressures in the masks the document tools give them.
+const FieldKind& kTemperature = field_kinds::temperature;
+const FieldKind& kPressure = field_kinds::pressure;
 
 using D = CompressFactorData;
 const std::array<DialogField<D>, kFields> kFieldTable{{
@@ -136,14 +135,7 @@ void CompressFactorModel::takeGasProperties()
 void CompressFactorModel::cmdPhysProps_Click()
 {
     ChangeNotice notice(*this);
-    if (!dataBaseValid_) {
-        ui_.ask(kTitle, "The physical properties data base cannot be found. Use File, Locate Data Base to choose it.",
-                MessageIcon::Warning, MessageButtons::Ok, MessageAnswer::Ok);
-        return;
-    }
-    propertiesCancelled() = false;
-    propertiesCancelled() = !ui_.GetPhysicalProperties(FluidKind::Gas, record_.temperature);
-    if (propertiesCancelled())
+    if (!fetchGasProperties(ui_, kTitle, dataBaseValid_, record_.temperature))
         return;
     takeGasProperties();
     ComputeZ();

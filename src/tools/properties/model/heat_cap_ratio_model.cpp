@@ -1,5 +1,6 @@
 #include "tools/properties/model/heat_cap_ratio_model.h"
 
+#include "units/field_kinds.h"
 #include "forms/model/user_interface.h"
 #include "numeric/checked_math.h"
 #include "numeric/display_mask.h"
@@ -15,11 +16,9 @@ using checked::Pow;
 
 namespace {
 
-const FieldKind kTemperature{"Temperature", TemperatureToUnit, TemperatureFromUnit,
-                             {"##,##0.00", "##,##0.00", "##,##0.00", "##,##0.00"}};
-const FieldKind kPressure{"Pressure", PressureToUnit, PressureFromUnit,
-                          {"##,##0.00", "##,##0.00", "##,##0.00", "##,##0.00", "##,##0.00", "##,##0.00", "##,##0.00",
-                           "##,##0.00"}};
+// Temperatures and pressures in the masks the document tools give them.
+const FieldKind& kTemperature = field_kinds::temperature;
+const FieldKind& kPressure = field_kinds::pressure;
 const FieldKind kHeatCapacity{"Heat Capacity", HeatCapacityToUnit, HeatCapacityFromUnit,
                               {"##,##0.00", "##,##0.00", "##,##0.00"}};
 
@@ -152,14 +151,7 @@ void HeatCapRatioModel::takeGasProperties()
 void HeatCapRatioModel::cmdPhysProps_Click()
 {
     ChangeNotice notice(*this);
-    if (!dataBaseValid_) {
-        ui_.ask(kTitle, "The physical properties data base cannot be found. Use File, Locate Data Base to choose it.",
-                MessageIcon::Warning, MessageButtons::Ok, MessageAnswer::Ok);
-        return;
-    }
-    propertiesCancelled() = false;
-    propertiesCancelled() = !ui_.GetPhysicalProperties(FluidKind::Gas, record_.temperature);
-    if (propertiesCancelled())
+    if (!fetchGasProperties(ui_, kTitle, dataBaseValid_, record_.temperature))
         return;
     takeGasProperties();
     for (int i : {CriticalTemperature, CriticalPressure, HeatCapacity})

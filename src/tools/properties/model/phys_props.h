@@ -28,4 +28,12 @@ struct PhysProps {
 PhysProps& physProps();
 bool& propertiesCancelled();
 
+class UserInterface;
+
+// A dialog tool's Properties button: the physical properties tool asked for a
+// gas at the dialog's temperature. False, after the program's message under
+// the dialog's title, when the data base cannot be found, and when the user
+// closed the tool without applying; true when physProps() holds the gas.
+bool fetchGasProperties(UserInterface& ui, const char* title, bool dataBaseValid, Single temperature);
+
 } // namespace kestrova
