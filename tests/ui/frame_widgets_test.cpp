@@ -3,6 +3,7 @@
 // controls by their program names, typing into fields, unit lists, options,
 // menu enabling and saving through the frame.
 
+#include "tool_windows.h"
 #include "widget_test_support.h"
 
 #include "frame/ui/auxiliary_dialogs.h"
@@ -310,50 +311,12 @@ private slots:
 
     void everyDialogFitsTheScreenAndCutsNoNumber()
     {
-        globalUnits() = GlobalUnits{};
-        minorLossStore() = MinorLossStore{};
-        ScriptedUserInterface ui;
-        const QString folder = QCoreApplication::applicationDirPath();
-        const auto check = [](QDialog& dialog) {
+        forEachDialogTool([](QDialog& dialog) {
             dialog.show();
             QVERIFY(QTest::qWaitForWindowExposed(&dialog));
             QVERIFY2(dialog.width() <= 800 && dialog.height() <= 600, qPrintable(dialog.objectName()));
             expectWholeTexts(dialog);
-        };
-        GasDensityModel density(ui);
-        density.Form_Load();
-        frmGasDensity densityWindow(density, ui, nullptr);
-        check(densityWindow);
-        CompressFactorModel z(ui, nullptr);
-        z.Form_Load();
-        frmCompressFactor zWindow(z, ui, nullptr);
-        check(zWindow);
-        HeatCapRatioModel ratio(ui);
-        frmHeatCapRatio ratioWindow(ratio, ui, nullptr);
-        check(ratioWindow);
-        FlowConversionsModel flow(nullptr);
-        flow.Form_Load();
-        frmFlowConversions flowWindow(flow, ui, nullptr);
-        check(flowWindow);
-        PipeModel pipes(ui, nullptr, folder);
-        pipes.Form_Load();
-        frmPipe pipesWindow(pipes, ui, nullptr);
-        check(pipesWindow);
-        RoughnessModel roughness(ui, nullptr);
-        roughness.Form_Load();
-        frmRoughness roughnessWindow(roughness, ui, nullptr);
-        check(roughnessWindow);
-        MinorLossesModel losses(ui);
-        losses.Form_Load();
-        frmMinorLosses lossesWindow(losses, ui, nullptr);
-        check(lossesWindow);
-        ReducerModel reducer(ReducerKind::Contraction, ui);
-        reducer.Form_Load();
-        frmReducer reducerWindow(reducer, ui, nullptr);
-        check(reducerWindow);
-        PhysicalPropertiesModel properties(ui, readCompounds(folder + "/compounds.sqlite"));
-        frmPhysicalProperties propertiesWindow(properties, ui, nullptr);
-        check(propertiesWindow);
+        });
     }
 
     static bool shownInFront(QWidget& dialog)
@@ -526,6 +489,7 @@ int runExceptionBarrierTests(int argc, char** argv); // exception_barrier_test.c
 int runPumpNetworkWidgetTests(int argc, char** argv); // pump_network_widgets_test.cpp
 int runHelpWidgetTests(int argc, char** argv); // help_widgets_test.cpp
 int runSingleInstanceTests(int argc, char** argv); // single_instance_test.cpp
+int runAccessibilityTests(int argc, char** argv); // accessibility_test.cpp
 
 int main(int argc, char** argv)
 {
@@ -536,6 +500,6 @@ int main(int argc, char** argv)
     PrintingAndSmallFormsTest printing;
     return QTest::qExec(&frame, argc, argv) | QTest::qExec(&dialogs, argc, argv) | QTest::qExec(&printing, argc, argv) |
            runFormViewTests(argc, argv) | runExceptionBarrierTests(argc, argv) | runPumpNetworkWidgetTests(argc, argv) |
-           runHelpWidgetTests(argc, argv) | runSingleInstanceTests(argc, argv);
+           runHelpWidgetTests(argc, argv) | runSingleInstanceTests(argc, argv) | runAccessibilityTests(argc, argv);
 }
 #include "frame_widgets_test.moc"

@@ -34,19 +34,7 @@ void pick(QComboBox* list, int entry)
 // Runs `work` on the segment dialog once it shows, then closes it with OK.
 void inNextSegmentDialog(std::function<void(QDialog&)> work)
 {
-    QTimer::singleShot(20, [work] {
-        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        if (!dialog || dialog->objectName() != "frmPumpSystemInput") {
-            inNextSegmentDialog(work);
-            return;
-        }
-        // The fields commit as the focus leaves them: the dialog must hold the focus.
-        QApplication::setActiveWindow(dialog);
-        if (!QTest::qWaitForWindowActive(dialog))
-            qWarning("the segment dialog never became active");
-        work(*dialog);
-        control<QPushButton>(dialog, "cmdOK")->click();
-    });
+    inNextDialog("frmPumpSystemInput", std::move(work), "cmdOK");
 }
 
 // The pointer moved over a widget, whether or not the platform has a pointer.

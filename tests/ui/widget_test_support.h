@@ -8,6 +8,7 @@
 #include "forms/store/settings_store.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
@@ -17,6 +18,7 @@
 #include <QTimer>
 #include <QtTest>
 
+#include <functional>
 #include <initializer_list>
 #include <utility>
 
@@ -44,6 +46,25 @@ inline void answerNextMessage(QMessageBox::StandardButton answer)
             box->button(answer)->click();
         else
             answerNextMessage(answer);
+    });
+}
+
+// Runs `work` on the modal dialog of that name once it shows, then clicks
+// its button of that name.
+inline void inNextDialog(const QString& name, std::function<void(QDialog&)> work, const char* closeButton)
+{
+    QTimer::singleShot(20, [name, work, closeButton] {
+        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (!dialog || dialog->objectName() != name) {
+            inNextDialog(name, work, closeButton);
+            return;
+        }
+        // The fields commit as the focus leaves them: the dialog must hold the focus.
+        QApplication::setActiveWindow(dialog);
+        if (!QTest::qWaitForWindowActive(dialog))
+            qWarning("the dialog %s never became active", qPrintable(name));
+        work(*dialog);
+        control<QPushButton>(dialog, closeButton)->click();
     });
 }
 

@@ -1,6 +1,7 @@
 #include "forms/ui/form_view.h"
 
 #include "forms/model/user_interface.h"
+#include "forms/ui/accessible_names.h"
 #include "forms/ui/exception_barrier.h"
 #include "units/basLoadUnits.h"
 
@@ -109,11 +110,19 @@ int leastWidth(const QLineEdit& edit, const TextControl& state)
     return edit.fontMetrics().horizontalAdvance(widest) + 14; // the frame and the inner margins
 }
 
+// A tool tip is also what a screen reader reads as the widget's description.
+void showToolTip(QWidget& widget, const std::string& tip)
+{
+    widget.setToolTip(QString::fromStdString(tip));
+    widget.setAccessibleDescription({}); // read from the tool tip
+}
+
 } // namespace
 
 FormView::FormView(FormModel& model, UserInterface& ui, QWidget& form)
     : QObject(&form), model_(model), ui_(ui), form_(form)
 {
+    form_.installEventFilter(this); // the inputs are named as the window first shows
 }
 
 template <typename Widget>
@@ -162,7 +171,9 @@ QComboBox* FormView::unitList(const Control& control, const char* tag)
     QStringList entries;
     for (const std::string& unit : kestrova::unitList(tag))
         entries << QString::fromStdString(unit);
-    return list(control, entries);
+    QComboBox* box = list(control, entries);
+    box->setProperty(kUnitListProperty, true);
+    return box;
 }
 
 QLabel* FormView::label(const Control& control, const QString& caption)
@@ -254,6 +265,12 @@ bool FormView::eventFilter(QObject* watched, QEvent* event)
 {
     if (detached_)
         return QObject::eventFilter(watched, event);
+    if (watched == &form_) {
+        if (event->type() == QEvent::Show)
+            guard([&] { nameAndDescribeInputs(); });
+        if (!statusTexts_.count(&form_))
+            return QObject::eventFilter(watched, event); // the window itself has no status text to show
+    }
     bool swallowed = false;
     guard([&] { swallowed = filterEvent(watched, event); });
     return swallowed || QObject::eventFilter(watched, event);
@@ -348,9 +365,40 @@ void FormView::render()
     renderCaptions();
     renderButtons();
     rendering_ = false;
+    if (namesStale_ && form_.isVisible())
+        nameAndDescribeInputs();
     if (const auto request = model_.takeFocusRequest())
         if (QWidget* widget = widgetOf(*request); widget && form_.isVisible())
             widget->setFocus();
+}
+
+void FormView::nameAndDescribeInputs()
+{
+    nameInputs(form_, [this](const QWidget& input) {
+        const auto text = statusTexts_.find(&input);
+        return text == statusTexts_.end() ? QString() : text->second;
+    });
+    for (QWidget* widget : form_.findChildren<QWidget*>())
+        if (isInput(*widget))
+            describe(*widget);
+    namesStale_ = false;
+}
+
+void FormView::describe(QWidget& input) const
+{
+    if (!input.toolTip().isEmpty()) {
+        input.setAccessibleDescription({}); // read from the tool tip
+        return;
+    }
+    // Its own status text, or that of the frame it sits in.
+    for (const QWidget* widget = &input; widget; widget = widget->parentWidget()) {
+        if (const auto text = statusTexts_.find(widget); text != statusTexts_.end()) {
+            input.setAccessibleDescription(text->second);
+            return;
+        }
+        if (widget == &form_)
+            return;
+    }
 }
 
 void FormView::renderFields()
@@ -380,7 +428,7 @@ void FormView::renderFields()
         if (first || was.shade != state->shade || was.red != state->red)
             paint(edit, state->shade, form_, state->red);
         if (!state->toolTip.empty() && (first || was.toolTip != state->toolTip))
-            edit->setToolTip(QString::fromStdString(state->toolTip));
+            showToolTip(*edit, state->toolTip);
         if (!typing)
             bound.shown = *state;
     }
@@ -399,7 +447,7 @@ void FormView::renderMessages()
             bound.widget->setPalette(p);
         }
         if (!state->toolTip.empty())
-            bound.widget->setToolTip(QString::fromStdString(state->toolTip));
+            showToolTip(*bound.widget, state->toolTip);
         bound.shown = *state;
     }
 }
@@ -434,8 +482,10 @@ void FormView::renderCaptions()
         const LabelControl* state = model_.labelOf(bound.control);
         if (!state || bound.shown == *state)
             continue;
-        if (!state->caption.empty())
+        if (!state->caption.empty() && bound.widget->text() != QString::fromStdString(state->caption)) {
             bound.widget->setText(QString::fromStdString(state->caption));
+            namesStale_ = true;
+        }
         bound.widget->setEnabled(!state->grey);
         bound.widget->setVisible(state->visible);
         bound.shown = *state;
@@ -444,7 +494,10 @@ void FormView::renderCaptions()
         const FrameControl* state = model_.frameOf(bound.control);
         if (!state || bound.shown == *state)
             continue;
-        bound.widget->setTitle(QString::fromStdString(state->caption));
+        if (bound.widget->title() != QString::fromStdString(state->caption)) {
+            bound.widget->setTitle(QString::fromStdString(state->caption));
+            namesStale_ = true;
+        }
         bound.widget->setEnabled(state->enabled);
         if (!bound.shown || bound.shown->bold != state->bold || bound.shown->red != state->red)
             showCaptionStyle(bound.widget, *state);
@@ -459,14 +512,18 @@ void FormView::renderButtons()
         if (!state || bound.shown == *state)
             continue;
         QAbstractButton* button = bound.widget;
-        if (!state->caption.empty() && button->text() != QString::fromStdString(state->caption))
+        if (!state->caption.empty() && button->text() != QString::fromStdString(state->caption)) {
             button->setText(QString::fromStdString(state->caption));
+            namesStale_ = true;
+        }
         button->setEnabled(state->enabled);
         if (button->isCheckable() && button->isChecked() != state->checked)
             button->setChecked(state->checked);
         button->setFocusPolicy(state->tabStop ? Qt::StrongFocus : Qt::ClickFocus);
-        if (!state->toolTip.empty())
-            button->setToolTip(QString::fromStdString(state->toolTip));
+        if (!state->toolTip.empty() && button->toolTip() != QString::fromStdString(state->toolTip)) {
+            showToolTip(*button, state->toolTip);
+            namesStale_ = true; // a button without a word in its caption is named by its tip
+        }
         bound.shown = *state;
     }
 }

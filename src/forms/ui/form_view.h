@@ -112,6 +112,10 @@ private:
     void renderLists();
     void renderCaptions();
     void renderButtons();
+    // Names each input for a screen reader from the captions around it and
+    // describes it by its tool tip or its status text.
+    void nameAndDescribeInputs();
+    void describe(QWidget& input) const;
 
     FormModel& model_;
     UserInterface& ui_;
@@ -120,6 +124,7 @@ private:
     bool arrowsWalk_ = false;
     bool rendering_ = false;
     bool detached_ = false;
+    bool namesStale_ = true; // a caption changed since the inputs were named
     std::map<const QObject*, Control> controls_;
     std::vector<Bound<QLineEdit, TextControl>> fields_;
     std::vector<Bound<QLabel, TextControl>> messages_;

@@ -1,5 +1,6 @@
 #include "frame/ui/frmUnitOptions.h"
 
+#include "forms/ui/accessible_names.h"
 #include "forms/ui/form_view.h"
 #include "forms/model/help_contexts.h"
 #include "forms/model/user_interface.h"
@@ -84,6 +85,7 @@ frmUnitOptions::frmUnitOptions(UserInterface& ui, SettingsStore& store, QWidget*
     layout->addLayout(form);
     layout->addLayout(right);
     setMouseTracking(true);
+    nameInputs(*this);
 }
 
 void frmUnitOptions::showEvent(QShowEvent* event)

@@ -1,6 +1,7 @@
 #include "tools/piping/ui/piping_dialogs.h"
 
 #include "forms/model/user_interface.h"
+#include "forms/ui/accessible_names.h"
 #include "forms/ui/exception_barrier.h"
 
 #include <QApplication>
@@ -73,6 +74,7 @@ QWidget* frmPipe::buildClass(int c)
     for (int i = 0; i < 3; ++i)
         k->addWidget(view().option(optMaterial(c, i), PipeModel::kindCaption(i)));
     auto* list = new QListWidget(kinds);
+    list->setAccessibleName("Material");
     list->setObjectName(QString::fromStdString(lstMaterial(c).name()));
     view().status(list, "Piping Material Listing");
     connect(list, &QListWidget::currentRowChanged, this, [this, c](int row) {
@@ -331,6 +333,24 @@ frmMinorLosses::frmMinorLosses(MinorLossesModel& model, UserInterface& ui, QWidg
     view().compactLayouts();
 }
 
+namespace {
+
+// A fitting as a screen reader names it: its group, then its caption; a
+// caption that continues the heading of a caption above it in its group
+// ("Stub-in Type Branch:" under "Tee, Branch Flow:  Standard, Screwed:") is
+// read with that heading, so that no two fittings are read alike.
+QString spokenFitting(const QString& group, const QString& caption, QString& heading)
+{
+    QString spoken = spokenCaption(caption);
+    if (const qsizetype colon = spoken.indexOf(':'); colon >= 0) {
+        heading = spoken.left(colon);
+        spoken = spoken.mid(colon + 1).trimmed();
+    }
+    return group + ", " + (heading.isEmpty() ? spoken : heading + ": " + spoken);
+}
+
+} // namespace
+
 // The fittings on three tabs, each group of like fittings in a frame of its own.
 QTabWidget* frmMinorLosses::fittingTabs()
 {
@@ -346,11 +366,13 @@ QTabWidget* frmMinorLosses::fittingTabs()
                                                  {"Entrance / Exit", "Entrance and Exit Losses"},
                                                  {"Tees", "Piping Tee Losses"}};
     std::map<QString, QGroupBox*> groups;
+    QString heading; // of the captions that continue it, within a group
     for (int n = 0; n < minor_losses::kFittings; ++n) {
         const Fitting& f = fittings()[static_cast<size_t>(n)];
         const QString groupName = QString::fromUtf8(f.group);
         QGroupBox*& group = groups[groupName];
         if (!group) {
+            heading.clear();
             group = new QGroupBox(groupName);
             group->setLayout(new QGridLayout);
             if (groupStatus.count(groupName))
@@ -363,7 +385,9 @@ QTabWidget* frmMinorLosses::fittingTabs()
         quantity->setMaximumWidth(70);
         quantity->setProperty("fittingGroup", groupName);
         const int row = layout->rowCount();
-        layout->addWidget(new QLabel(QString::fromUtf8(f.label)), row, 0);
+        const QString caption = QString::fromUtf8(f.label);
+        quantity->setAccessibleName(spokenFitting(groupName, caption, heading));
+        layout->addWidget(new QLabel(caption), row, 0);
         layout->addWidget(quantity, row, 1);
     }
     QGridLayout* elbows = pages["Elbows"];
@@ -433,7 +457,17 @@ frmReducer::frmReducer(ReducerModel& model, UserInterface& ui, QWidget* parent)
         beta->setProperty("fittingGroup", row < kGradualRows ? "Gradual" : "Sudden");
         view().status(beta, contraction ? "Valid Beta:  0 < Beta < 1" : "Valid angles:  0 < Angle < 180");
         grid->addWidget(beta, line, 2);
-        grid->addWidget(view().field(txtKValue(row)), line, 3);
+        QLineEdit* k = view().field(txtKValue(row));
+        grid->addWidget(k, line, 3);
+        // A screen reader names each row's fields by its kind and number.
+        const int number = row < kGradualRows ? row + 1 : row - kGradualRows + 1;
+        const QString rowName = QString("%1 %2 ").arg(
+            spokenCaption(QString::fromStdString(row < kGradualRows ? model.gradualLabel() : model.suddenLabel())),
+            QString::number(number));
+        if (row < kGradualRows)
+            view().widgetOf(txtAngle(row))->setAccessibleName(rowName + "Angle");
+        beta->setAccessibleName(rowName + "Beta");
+        k->setAccessibleName(rowName + "K");
     }
     grid->addWidget(new QLabel("Total K:"), kRows + 2, 2);
     grid->addWidget(view().field(txtTotalK), kRows + 2, 3);

@@ -120,8 +120,9 @@ void frmPressureDrop::kRow(QGridLayout* grid, int row, int labelIndex, const std
 {
     QLabel* caption = view().label(Label1(labelIndex), "K1, K2, K3:");
     auto* box = new QHBoxLayout;
-    for (int k : fields) {
-        QLineEdit* edit = view().field(txtDisplay(k));
+    for (size_t i = 0; i < fields.size(); ++i) {
+        QLineEdit* edit = view().field(txtDisplay(fields[i]));
+        edit->setAccessibleName(QString("K%1").arg(i + 1)); // the caption names all three
         box->addWidget(edit);
     }
     grid->addWidget(caption, row, 0);
@@ -270,6 +271,13 @@ QWidget* frmPressureDrop::buildTwoPhaseTab()
     fieldRow(f, 7, "Density:", TwoPhaseVaporDensity, GasDensityTool);
     fieldRow(f, 8, "Viscosity (at T && P):", TwoPhaseVaporViscosity);
     fieldRow(f, 9, "Flowing Temperature:", TwoPhaseTemperature);
+    // The liquid's rows and the vapor's have the same captions: a screen reader says whose.
+    const std::pair<int, const char*> phaseRows[] = {
+        {TwoPhaseLiquidFlow, "Liquid Flow Rate"}, {TwoPhaseLiquidDensity, "Liquid Density"},
+        {TwoPhaseLiquidViscosity, "Liquid Viscosity (at T & P)"}, {TwoPhaseVaporFlow, "Vapor Flow Rate"},
+        {TwoPhaseVaporDensity, "Vapor Density"}, {TwoPhaseVaporViscosity, "Vapor Viscosity (at T & P)"}};
+    for (const auto& [field, name] : phaseRows)
+        view().widgetOf(txtData(field))->setAccessibleName(name);
     f->addWidget(view().label(lblTwoPhaseFluids, QString()), 10, 0, 1, 2);
     QPushButton* liquidProps = view().button(cmdProperties(2), "Liquid Properties");
     liquidProps->setToolTip("Get Physical Properties");

@@ -1,5 +1,6 @@
 #include "tools/properties/ui/property_dialogs.h"
 
+#include "forms/ui/accessible_names.h"
 #include "forms/ui/exception_barrier.h"
 
 #include <QCheckBox>
@@ -34,8 +35,11 @@ frmPhysicalProperties::frmPhysicalProperties(PhysicalPropertiesModel& model, Use
         if (!drawing_ && row >= 0)
             view().guard([&] { model_.choose(dbcComp, row); });
     });
+    dbcComp_->setAccessibleName("Compounds");
+    auto* caption = new QLabel("Compound:");
+    caption->setBuddy(search);
     auto* left = new QVBoxLayout;
-    left->addWidget(new QLabel("Compound:"));
+    left->addWidget(caption);
     left->addWidget(search);
     left->addWidget(dbcComp_);
 
@@ -74,8 +78,12 @@ QGroupBox* frmPhysicalProperties::propertiesFrame()
         grid->addWidget(field, row + 1, 1);
         grid->addWidget(view().unitList(cboPPUnits(row), PhysicalPropertiesModel::rowUnitTag(row)), row + 1, 2);
         if (row < 6) {
-            for (const Control& limit : {txtLTL(row), txtUTL(row)})
-                grid->addWidget(view().field(limit), row + 1, limit.family == "txtLTL" ? 3 : 4);
+            for (const Control& limit : {txtLTL(row), txtUTL(row)}) {
+                const bool low = limit.family == "txtLTL";
+                QLineEdit* edge = view().field(limit);
+                edge->setAccessibleName(spokenCaption(caption->text()) + (low ? ", Low T" : ", High T"));
+                grid->addWidget(edge, row + 1, low ? 3 : 4);
+            }
         }
     }
     grid->addWidget(new QLabel("Molecular Weight:"), 11, 0);

@@ -294,8 +294,11 @@ frmPumpSystemInput::frmPumpSystemInput(PumpSegmentInputModel& model, UserInterfa
         narrowFields_.push_back(field);
         return field;
     };
-    for (int k = 0; k < 3; ++k)
-        constants->addWidget(narrow(view().field(seg::txtDisplay(k))));
+    for (int k = 0; k < 3; ++k) {
+        QLineEdit* constant = narrow(view().field(seg::txtDisplay(k)));
+        constant->setAccessibleName(QString("K%1").arg(k + 1)); // the caption names all three
+        constants->addWidget(constant);
+    }
     constants->addStretch();
     grid->addWidget(new QLabel("K1, K2, K3:"), seg::kFields, 0);
     grid->addLayout(constants, seg::kFields, 1, 1, 2);

@@ -1,5 +1,7 @@
 #include "tools/pump_network/ui/network_drawing.h"
 
+#include "forms/ui/accessible_names.h"
+
 #include "forms/ui/form_view.h"
 #include "tools/pump_network/model/pump_network_model.h"
 
@@ -30,6 +32,23 @@ QString lineCaption(int line)
 
 } // namespace
 
+namespace {
+
+// What a screen reader calls a field of the drawing: its caption and the
+// line it belongs to ("Flow, line 8"), since every terminal line's box and
+// every valve has the same captions.
+QString spokenPlace(const FieldPlace& place)
+{
+    const QString caption = spokenCaption(place.caption);
+    const int field = place.field;
+    const int line = field < SourceHeight                            ? kTerminals[static_cast<size_t>(field / 3)]
+                     : field >= Valve5Drop && field <= Valve3Drop ? kTerminals[static_cast<size_t>(field - Valve5Drop)]
+                                                                   : 0;
+    return line ? QString("%1, line %2").arg(caption).arg(line) : caption;
+}
+
+} // namespace
+
 NetworkDrawing::NetworkDrawing(PumpNetworkModel& model, FormView& view, QWidget* parent)
     : QWidget(parent), model_(model), view_(view)
 {
@@ -51,6 +70,8 @@ NetworkDrawing::NetworkDrawing(PumpNetworkModel& model, FormView& view, QWidget*
         edit->setParent(this);
         units->setParent(this);
         caption->setBuddy(edit);
+        edit->setAccessibleName(spokenPlace(place));
+        units->setAccessibleName(spokenPlace(place) + " units");
         const int terminal = place.field < SourceHeight ? place.field / 3 : -1;
         const int line = terminal >= 0 ? kTerminals[static_cast<size_t>(terminal)] : 0;
         const int captionWidth =
