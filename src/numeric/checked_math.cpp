@@ -2,36 +2,30 @@
 
 #include "numeric/numeric_fault.h"
 
-#include <cmath>
-
-namespace kestrova::checked {
+namespace kestrova::checked::detail {
 
 namespace {
-double finiteResult(double result, const char* operation)
-{
-    if (std::isnan(result))
-        raiseFault(FaultKind::InvalidOperation, operation);
-    if (std::isinf(result))
-        raiseFault(FaultKind::Overflow, operation);
-    return result;
-}
-
 void requireFinite(double operand, const char* operation)
 {
-    finiteResult(operand, operation);
+    finite(operand, operation);
 }
 } // namespace
 
-double Div(double numerator, double denominator)
+void raiseNotFinite(double result, const char* operation)
+{
+    raiseFault(std::isnan(result) ? FaultKind::InvalidOperation : FaultKind::Overflow, operation);
+}
+
+double carefulDiv(double numerator, double denominator)
 {
     requireFinite(numerator, "a division");
     requireFinite(denominator, "a division");
     if (denominator == 0.0)
         raiseFault(FaultKind::DivisionByZero, "a division");
-    return finiteResult(numerator / denominator, "a division");
+    return finite(numerator / denominator, "a division");
 }
 
-double Pow(double base, double exponent)
+double carefulPow(double base, double exponent)
 {
     requireFinite(base, "a power");
     requireFinite(exponent, "a power");
@@ -39,10 +33,10 @@ double Pow(double base, double exponent)
         raiseFault(FaultKind::DivisionByZero, "a power");
     if (base < 0.0 && exponent != std::trunc(exponent))
         raiseFault(FaultKind::InvalidOperation, "a power of a negative base");
-    return finiteResult(std::pow(base, exponent), "a power");
+    return finite(std::pow(base, exponent), "a power");
 }
 
-double Log(double x)
+double carefulLog(double x)
 {
     requireFinite(x, "a logarithm");
     if (x <= 0.0)
@@ -50,7 +44,7 @@ double Log(double x)
     return std::log(x);
 }
 
-double Sqr(double x)
+double carefulSqr(double x)
 {
     requireFinite(x, "a square root");
     if (x < 0.0)
@@ -58,15 +52,10 @@ double Sqr(double x)
     return std::sqrt(x);
 }
 
-double Exp(double x)
+double carefulExp(double x)
 {
     requireFinite(x, "an exponential");
-    return finiteResult(std::exp(x), "an exponential");
+    return finite(std::exp(x), "an exponential");
 }
 
-double Finite(double x)
-{
-    return finiteResult(x, "a result");
-}
-
-} // namespace kestrova::checked
+} // namespace kestrova::checked::detail

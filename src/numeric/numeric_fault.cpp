@@ -3,7 +3,6 @@
 namespace kestrova {
 
 namespace {
-thread_local const char* currentRoutine = nullptr;
 
 const char* kindText(FaultKind kind)
 {
@@ -34,21 +33,6 @@ std::string describe(FaultKind kind, const std::string& operation)
 NumericFault::NumericFault(FaultKind kind, const std::string& operation)
     : std::runtime_error(describe(kind, operation)), kind_(kind), where_(what())
 {
-}
-
-FaultScope::FaultScope(const char* routine) : previous_(currentRoutine)
-{
-    currentRoutine = routine;
-}
-
-FaultScope::~FaultScope()
-{
-    currentRoutine = previous_;
-}
-
-const char* FaultScope::current()
-{
-    return currentRoutine;
 }
 
 void raiseFault(FaultKind kind, const char* operation)

@@ -25,14 +25,18 @@ private:
 
 // Names the routine that runs while it lives, so that a fault raised deep in an
 // expression says where it happened. Scopes nest; the innermost one names the fault.
+namespace detail {
+inline constinit thread_local const char* currentRoutine = nullptr;
+}
+
 class FaultScope {
 public:
-    explicit FaultScope(const char* routine);
-    ~FaultScope();
+    explicit FaultScope(const char* routine) : previous_(detail::currentRoutine) { detail::currentRoutine = routine; }
+    ~FaultScope() { detail::currentRoutine = previous_; }
     FaultScope(const FaultScope&) = delete;
     FaultScope& operator=(const FaultScope&) = delete;
 
-    static const char* current();
+    static const char* current() { return detail::currentRoutine; }
 
 private:
     const char* previous_;

@@ -2,20 +2,13 @@
 
 #include "numeric/numeric_fault.h"
 
-#include <cfloat>
 #include <cmath>
 
 namespace kestrova {
 
-float roundToSingle(double value)
+void detail::raiseNotStorable(double value)
 {
-    if (std::isnan(value))
-        raiseFault(FaultKind::InvalidOperation, "a stored value");
-    // Half an ulp above FLT_MAX is where rounding to single reaches infinity.
-    constexpr double kLimit = static_cast<double>(FLT_MAX) + 0x1p103;
-    if (!(std::fabs(value) < kLimit))
-        raiseFault(FaultKind::Overflow, "a stored value");
-    return static_cast<float>(value);
+    raiseFault(std::isnan(value) ? FaultKind::InvalidOperation : FaultKind::Overflow, "a stored value");
 }
 
 std::int16_t roundToInteger16(double value)

@@ -4,13 +4,28 @@
 // `Single` makes that rule hold by construction: it converts to double for any
 // arithmetic, and rounds (and range-checks) when it is assigned.
 
+#include <cfloat>
+#include <cmath>
 #include <cstdint>
 
 namespace kestrova {
 
+namespace detail {
+// Raises the fault of a value no single can hold: NaN or beyond the range.
+[[noreturn]] void raiseNotStorable(double value);
+}
+
 // Rounds a double to the nearest single. A NaN is an invalid operation and a
 // value beyond the single range an overflow: both raise a NumericFault.
-float roundToSingle(double value);
+// Inline: a sound value costs one comparison and the conversion.
+inline float roundToSingle(double value)
+{
+    // Half an ulp above FLT_MAX is where rounding to single reaches infinity.
+    constexpr double kLimit = static_cast<double>(FLT_MAX) + 0x1p103;
+    if (!(std::fabs(value) < kLimit)) [[unlikely]] // also NaN, which compares false
+        detail::raiseNotStorable(value);
+    return static_cast<float>(value);
+}
 
 class Single {
 public:
