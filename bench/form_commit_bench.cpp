@@ -37,15 +37,18 @@ void commitField(QLineEdit* field, const QString& text)
 // A tool's window over its loaded model, shown and active, as the frame opens it.
 template <typename Model, typename Window>
 struct ShownWindow {
+    // The shared stores start afresh before the model reads them.
+    struct FreshStores {
+        FreshStores()
+        {
+            globalUnits() = GlobalUnits{};
+            minorLossStore() = MinorLossStore{};
+        }
+    } stores;
     ScriptedUserInterface ui;
-    Model model{(reset(), ui)}; // the shared stores start afresh before the model reads them
+    Model model{ui};
     Window window{model, ui};
 
-    static void reset()
-    {
-        globalUnits() = GlobalUnits{};
-        minorLossStore() = MinorLossStore{};
-    }
     bool show()
     {
         model.Form_Load();

@@ -444,30 +444,29 @@ frmReducer::frmReducer(ReducerModel& model, UserInterface& ui, QWidget* parent)
     grid->addWidget(new QLabel("Beta"), 0, 2);
     grid->addWidget(new QLabel("K"), 0, 3);
     for (int row = 0; row < kRows; ++row) {
-        const int line = row < kGradualRows ? row + 1 : row + 2;
+        const bool gradual = row < kGradualRows;
+        const int line = gradual ? row + 1 : row + 2;
         if (row == kGradualRows)
             grid->addWidget(new QLabel(QString::fromStdString(model.suddenLabel())), line - 1, 0);
-        if (row < kGradualRows) {
+        // A screen reader names each row's fields by its kind and number.
+        const QString rowName = QString("%1 %2 ").arg(
+            spokenCaption(QString::fromStdString(gradual ? model.gradualLabel() : model.suddenLabel())),
+            QString::number(gradual ? row + 1 : row - kGradualRows + 1));
+        if (gradual) {
             QLineEdit* angle = view().field(txtAngle(row));
             angle->setProperty("fittingGroup", "Gradual");
+            angle->setAccessibleName(rowName + "Angle");
             view().status(angle, "Valid angles:  0 < Angle < 180");
             grid->addWidget(angle, line, 1);
         }
         QLineEdit* beta = view().field(txtBeta(row));
-        beta->setProperty("fittingGroup", row < kGradualRows ? "Gradual" : "Sudden");
+        beta->setProperty("fittingGroup", gradual ? "Gradual" : "Sudden");
+        beta->setAccessibleName(rowName + "Beta");
         view().status(beta, contraction ? "Valid Beta:  0 < Beta < 1" : "Valid angles:  0 < Angle < 180");
         grid->addWidget(beta, line, 2);
         QLineEdit* k = view().field(txtKValue(row));
-        grid->addWidget(k, line, 3);
-        // A screen reader names each row's fields by its kind and number.
-        const int number = row < kGradualRows ? row + 1 : row - kGradualRows + 1;
-        const QString rowName = QString("%1 %2 ").arg(
-            spokenCaption(QString::fromStdString(row < kGradualRows ? model.gradualLabel() : model.suddenLabel())),
-            QString::number(number));
-        if (row < kGradualRows)
-            view().widgetOf(txtAngle(row))->setAccessibleName(rowName + "Angle");
-        beta->setAccessibleName(rowName + "Beta");
         k->setAccessibleName(rowName + "K");
+        grid->addWidget(k, line, 3);
     }
     grid->addWidget(new QLabel("Total K:"), kRows + 2, 2);
     grid->addWidget(view().field(txtTotalK), kRows + 2, 3);
