@@ -20,7 +20,7 @@ import tempfile
 import timeit
 
 from fluids.flow_meter import C_Reader_Harris_Gallagher
-from fluids.friction import Churchill_1977
+from fluids.friction import Churchill_1977, friction_factor
 from fluids.two_phase import Friedel
 
 LB = 0.45359237  # kg
@@ -56,6 +56,49 @@ def fluids_friedel():
     drop = Friedel(m, x, rho_l, rho_g, LINE["liquidViscosity"] * CP, LINE["gasViscosity"] * CP,
                    LINE["surfaceTension"], LINE["diameter"] * INCH, LINE["roughness"] * FT, LINE["length"] * FT)
     return drop / PSI
+
+
+def friedel_steps():
+    """fluids' Friedel drop (psi), and the drop after each of Kestrova's
+    choices in turn, taken in fluids' own SI formulation: the multiplier's
+    constants, the smooth-pipe friction factor of Friedel without roughness,
+    and each phase's Reynolds number from that phase's own flow rather than
+    the whole flow. The last figure is Kestrova's drop."""
+    m = (LINE["gasFlow"] + LINE["liquidFlow"]) * LB / 3600
+    x = LINE["gasFlow"] / (LINE["gasFlow"] + LINE["liquidFlow"])
+    rho_l, rho_g = LINE["liquidDensity"] * LB / FT ** 3, LINE["gasDensity"] * LB / FT ** 3
+    mu_l, mu_g = LINE["liquidViscosity"] * CP, LINE["gasViscosity"] * CP
+    D, L, sigma = LINE["diameter"] * INCH, LINE["length"] * FT, LINE["surfaceTension"]
+    A = math.pi / 4 * D ** 2
+    G = m / A
+
+    def smooth(Re):
+        return 64 / Re if Re < 1055 else (0.86859 * math.log(Re / (1.964 * math.log(Re) - 3.8215))) ** -2
+
+    def drop(kestrova_multiplier, smooth_friction, phase_flows):
+        W_l, W_g = (m * (1 - x), m * x) if phase_flows else (m, m)
+        Re_l, Re_g = W_l / A * D / mu_l, W_g / A * D / mu_g
+        if smooth_friction:
+            f_l, f_g = smooth(Re_l), smooth(Re_g)
+        else:
+            f_l = friction_factor(Re=Re_l, eD=LINE["roughness"] * FT / D)
+            f_g = friction_factor(Re=Re_g, eD=LINE["roughness"] * FT / D)
+        E = (1 - x) ** 2 + x ** 2 * rho_l * f_g / (rho_g * f_l)
+        rho_h = 1 / (x / rho_g + (1 - x) / rho_l)
+        Fr = G ** 2 / (9.80665 * D * rho_h ** 2)
+        We = G ** 2 * D / sigma / rho_h
+        if kestrova_multiplier:
+            phi = E + 3.43 * x ** 0.685 * (1 - x) ** 0.24 * (rho_l / rho_g) ** 0.8 * (mu_g / mu_l) ** 0.22 \
+                * (1 - mu_g / mu_l) ** 0.89 * Fr ** -0.047 * We ** -0.0334
+        else:
+            phi = E + 3.24 * x ** 0.78 * (1 - x) ** 0.224 * (rho_l / rho_g) ** 0.91 * (mu_g / mu_l) ** 0.19 \
+                * (1 - mu_g / mu_l) ** 0.7 / (Fr ** 0.0454 * We ** 0.035)
+        return phi * f_l * L / D * G ** 2 / (2 * rho_l) / PSI
+
+    return [("fluids' Friedel, rebuilt", drop(False, False, False)),
+            ("+ Kestrova's multiplier (3.43 x^0.685 ... We^-0.0334)", drop(True, False, False)),
+            ("+ Friedel's smooth-pipe friction factor, no roughness", drop(True, True, False)),
+            ("+ each phase's Reynolds number from its own flow", drop(True, True, True))]
 
 
 def kestrova_figures(calc):
@@ -112,6 +155,10 @@ def main():
         ours_ns = times[name]
         theirs_ns = fluids_time(function)
         print(f"{title:<72} {ours:>12.6g} {theirs:>12.6g} {ours_ns:>12.0f} {theirs_ns:>10.0f} {theirs_ns / ours_ns:>15.1f}x{note}")
+    print(f"\nWhy the two-phase drops differ ({drop:.6g} psi in Kestrova, {fluids_friedel():.6g} psi in fluids):")
+    for step, value in friedel_steps():
+        print(f"  {step:<60} {value:>10.6g} psi")
+    print("  (what remains is Kestrova's 2.42 lb/ft-hr per cP in its Reynolds numbers, and its singles)")
 
 
 if __name__ == "__main__":

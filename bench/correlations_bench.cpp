@@ -5,6 +5,7 @@
 
 #include "calc/calc_protocol.h"
 #include "hydraulics/basTransportFunctions.h"
+#include "numeric/display_mask.h"
 #include "tools/orifice/calc/basOrificeFunctions.h"
 #include "tools/properties/calc/property_correlation.h"
 
@@ -64,6 +65,39 @@ void BM_AdiabaticGasFlow(benchmark::State& state)
 }
 BENCHMARK(BM_AdiabaticGasFlow);
 
+// The adiabatic line's search in plain doubles: the inlet's root, then per
+// round two squares of each Mach number and a logarithm, as many rounds as
+// the step takes to halve below 1e-15, then the outlet's powers and roots.
+void BM_AdiabaticGasFlow_BareCalls(benchmark::State& state)
+{
+    const volatile double massFlow = 10000, area = 0.0884, temperature = 400, pressure = 150, Z = 0.95, MW = 18.015,
+                          heatRatio = 1.3, resistance = 22;
+    for (auto _ : state) {
+        const double k = heatRatio, T = temperature + 459.67, P = pressure * 144;
+        const double rho = P * MW / (Z * 1545.3563 * T);
+        const double c = std::sqrt(k * 32.174 * Z * 1545.3563 * T / MW);
+        const double M1 = massFlow / area / 3600 / rho / c;
+        double base = 1, step = M1 - 1, M2 = 1;
+        for (int round = 1; round <= 200; ++round) {
+            step *= 0.5;
+            M2 = base + step;
+            const double A = 1 + (k - 1) / 2 * std::pow(M2, 2);
+            const double L = std::log(std::pow(M1, 2) * A / (std::pow(M2, 2) * A));
+            const double F = resistance - 1 / (std::pow(M1, 2) * k) + 1 / (std::pow(M2, 2) * k) - (k + 1) / (2 * k) * L;
+            if (F <= 0)
+                base = M2;
+            if (std::fabs(step) < 1e-15 || F == 0)
+                break;
+        }
+        const double H = 1 + std::pow(M1, 2) * (k - 1) / 2;
+        benchmark::DoNotOptimize(std::sqrt(2 * H / (k + 1)));
+        const double R = std::sqrt((1 + std::pow(M2, 2) * (k - 1) / 2) / (1 + std::pow(M1, 2) * (k - 1) / 2));
+        const double P2 = P * M1 / (M2 * R);
+        benchmark::DoNotOptimize(std::pow(P2 * M2 / (P * M1), 2) * T - 459.67);
+    }
+}
+BENCHMARK(BM_AdiabaticGasFlow_BareCalls);
+
 void BM_TwoPhaseDrop(benchmark::State& state)
 {
     const TwoPhaseLine line{"Horizontal", 4.026, 0.00015, 2000, 40000, 0.25, 62.3, 0.018, 0.9, 0.072, 200};
@@ -74,6 +108,39 @@ void BM_TwoPhaseDrop(benchmark::State& state)
     }
 }
 BENCHMARK(BM_TwoPhaseDrop);
+
+// The same line by Friedel in plain doubles: the mixture's two powers, the
+// phase Reynolds numbers and smooth-pipe friction factors, the multiplier's
+// nine powers, the drop, then the regime map's root, powers and logarithms.
+// No texts: the correlation's name, the regime and the map coordinates are
+// what the drop adds beyond its calls.
+void BM_TwoPhaseDrop_BareCalls(benchmark::State& state)
+{
+    const volatile double diameter = 4.026, Wg = 2000, Wl = 40000, rg = 0.25, rl = 62.3, mug = 0.018, mul = 0.9,
+                          tension = 0.072, length = 200;
+    const auto friction = [](double re) {
+        return re < 1055 ? 64 / re : std::pow(0.86859 * std::log(re / (1.964 * std::log(re) - 3.8215)), -2);
+    };
+    for (auto _ : state) {
+        const double sigma = tension * 1000, D = diameter / 12, A = std::pow(D, 2) * 3.1415926536 / 4;
+        const double G = (Wg + Wl) / A / 3600, Gl = Wl / A / 3600, Gg = Wg / A / 3600;
+        benchmark::DoNotOptimize(std::pow(3.2808, 2) * G / 2.20462);
+        const double rh = (Wg + Wl) / (Wg / rg + Wl / rl), x = Wg / (Wg + Wl);
+        const double Fr = std::pow(G, 2) / (std::pow(rh, 2) * 32.174 * D);
+        const double We = std::pow(G, 2) * D / (rh * 32.174 * sigma * 2.248089e-6 * 2.54 * 12);
+        const double reynoldsScale = 2.42 * 3.1415926536 * diameter / 12;
+        const double fg = friction(Wg * 4 / (mug * reynoldsScale)), fl = friction(Wl * 4 / (mul * reynoldsScale));
+        const double E = std::pow(1 - x, 2) + std::pow(x, 2) * (fg * rl) / (rg * fl);
+        const double phi = E + 3.43 * std::pow(x, 0.685) * std::pow(1 - x, 0.24) * std::pow(rl / rg, 0.8) *
+                                   std::pow(mug / mul, 0.22) * std::pow(1 - mug / mul, 0.89) * std::pow(Fr, -0.047) *
+                                   std::pow(We, -0.0334);
+        benchmark::DoNotOptimize(std::pow(G, 2) * (phi * length * fl) / 2 / 32.174 / rl / D / 144);
+        const double lambda = std::sqrt((rl / 62.3) * (rg / 0.075));
+        const double psi = 73 / sigma * std::pow(mul * std::pow(62.3 / rl, 2), 1.0 / 3.0);
+        benchmark::DoNotOptimize(std::log(Gl * 3600 / (Gg * 3600) * lambda * psi) + std::log(Gg * 3600 / lambda));
+    }
+}
+BENCHMARK(BM_TwoPhaseDrop_BareCalls);
 
 void BM_OrificeDischargeCoefficient(benchmark::State& state)
 {
@@ -131,6 +198,33 @@ void BM_CalcRequestLine(benchmark::State& state)
         benchmark::DoNotOptimize(calc::answerRequest(line));
 }
 BENCHMARK(BM_CalcRequestLine);
+
+// One tool call of each document tool: the model built and loaded, the
+// request's fields committed, one run, the report written.
+const char* const kToolCallLines[] = {
+    R"json({"id": 1, "call": "PressureDrop.CalculateResults", "args": {"tab": 0, "crossSection": 0, "record": {"LiquidFlow": 36000, "LiquidDensity": 62.4, "LiquidViscosity": 0.001, "Diameter": 6.065, "Roughness": 0.00015, "PipeLength": 100}, "texts": {"txtDisplay(12)": "0.5"}, "units": {"cboUnits(10)": 5}}})json",
+    R"json({"id": 2, "call": "OrificePlates.ComputeOrifice", "args": {"tab": 0, "compute": 0, "tap": 0, "record": {"pipeID": 4.026, "orificeDiameter": 2.013, "liquidDensity": 62.4, "liquidViscosity": 0.001, "differentialPressure": 10, "temperature": 68}}})json",
+    R"json({"id": 3, "call": "PumpNetwork.NetCalc", "args": {"NetFlow": [0, 0, 0, 50000], "NetPDest": [0, 0, 0, 100, 0, 200], "SegDensity": [0, 62.4, 62.4, 62.4, 62.4, 62.4, 62.4, 62.4, 62.4, 62.4, 62.4, 62.4], "SegID": [0, 4.026, 4.026, 4.026, 4.026, 4.026, 4.026, 4.026, 4.026, 4.026, 4.026, 4.026], "SegVisc": [0, 0.001, 0.001, 0.001, 0.001, 0.001, 0.001, 0.001, 0.001, 0.001, 0.001, 0.001], "MinValveDp": 0}})json"};
+
+void BM_CalcToolCall(benchmark::State& state)
+{
+    const std::string line = kToolCallLines[state.range(0)];
+    for (auto _ : state)
+        benchmark::DoNotOptimize(calc::answerRequest(line));
+}
+BENCHMARK(BM_CalcToolCall)->ArgName("pressureDrop0_orifice1_network2")->DenseRange(0, 2);
+
+// A field's text through its mask, as every refresh of a field makes it.
+void BM_FormatMask(benchmark::State& state)
+{
+    const std::pair<double, const char*> cases[] = {
+        {1234567.891, "##,##0.00"}, {0.0190032, "0.00000"}, {16.04f, "##0.0000"}, {3.2e-7, "0.000E+00"}, {0, "#,###,###"}};
+    for (auto _ : state)
+        for (const auto& [value, mask] : cases)
+            benchmark::DoNotOptimize(formatMask(value, mask));
+    state.SetItemsProcessed(state.iterations() * static_cast<long>(std::size(cases)));
+}
+BENCHMARK(BM_FormatMask);
 
 // The console's table, then each correlation's least time per call over
 // the least time of its bare calls.

@@ -4,29 +4,50 @@
 
 #include "numeric/numeric_fault.h"
 
+#include <charconv>
 #include <cmath>
-#include <cstdio>
 
 namespace kestrova::calc {
 
+namespace {
+
+// Printable ASCII without a quote or a backslash stands in JSON as it is.
+bool plainJson(std::string_view text)
+{
+    for (const char c : text)
+        if (c < 0x20 || c > 0x7e || c == '"' || c == '\\')
+            return false;
+    return true;
+}
+
+// printf's "%.<digits>g", which round-trips a single at 9 and a double at 17.
+std::string generalText(double value, int digits)
+{
+    char buffer[40];
+    return {buffer, std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::general, digits).ptr};
+}
+
+} // namespace
+
 std::string quoted(std::string_view text)
 {
+    if (plainJson(text)) {
+        std::string json;
+        json.reserve(text.size() + 2);
+        return json.append(1, '"').append(text).append(1, '"');
+    }
     // Replace what is not UTF-8 rather than fail on a message text.
     return nlohmann::json(std::string(text)).dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
 }
 
 std::string singleText(double value)
 {
-    char buffer[40];
-    std::snprintf(buffer, sizeof buffer, "%.9g", value);
-    return buffer;
+    return generalText(value, 9);
 }
 
 std::string realText(double value)
 {
-    char buffer[40];
-    std::snprintf(buffer, sizeof buffer, "%.17g", value);
-    return buffer;
+    return generalText(value, 17);
 }
 
 void JsonObject::key(std::string_view name)

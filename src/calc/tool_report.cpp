@@ -119,8 +119,8 @@ void reportPumpNetwork(const PumpNetworkModel& tool, JsonObject& result)
     const auto array = [](const std::array<Single, 12>& values) {
         std::string json = "[";
         for (size_t i = 0; i < values.size(); ++i)
-            json += (i ? ", " : "") + singleText(values[i]);
-        return json + "]";
+            json.append(i ? ", " : "").append(singleText(values[i]));
+        return json.append("]");
     };
     const std::pair<const char*, const std::array<Single, 12>*> inputs[] = {
         {"NetFlow", &s.NetFlow}, {"NetPDest", &s.NetPDest}, {"NetHeight", &s.NetHeight}, {"SegLength", &g.SegLength},
@@ -140,7 +140,7 @@ void reportPumpNetwork(const PumpNetworkModel& tool, JsonObject& result)
     for (size_t r = 0; r < form.grid.size(); ++r) {
         rows += r ? ", [" : "[";
         for (size_t c = 0; c < form.grid[r].size(); ++c)
-            rows += (c ? ", " : "") + quoted(form.grid[r][c]);
+            rows.append(c ? ", " : "").append(quoted(form.grid[r][c]));
         rows += "]";
     }
     result.raw("texts", texts.str()).raw("grid", rows + "]");

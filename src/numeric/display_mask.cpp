@@ -2,9 +2,11 @@
 
 #include "numeric/numeric_fault.h"
 
+#include <algorithm>
+#include <charconv>
 #include <cmath>
-#include <cstdio>
 #include <cstdlib>
+#include <cstring>
 
 namespace kestrova {
 
@@ -25,34 +27,35 @@ struct MaskLayout {
 MaskLayout readMask(std::string_view mask)
 {
     MaskLayout layout;
-    std::string_view mantissa = mask;
-    const auto e = mask.find_first_of("Ee");
-    if (e != std::string_view::npos && e + 1 < mask.size() && (mask[e + 1] == '+' || mask[e + 1] == '-')) {
-        layout.scientific = true;
-        layout.exponentSignAlways = mask[e + 1] == '+';
-        for (char c : mask.substr(e + 2))
-            if (c == '0' || c == '#')
-                ++layout.exponentDigits;
-        mantissa = mask.substr(0, e);
-    }
-    const auto point = mantissa.find('.');
-    layout.hasPoint = point != std::string_view::npos;
-    const std::string_view integerPart = mantissa.substr(0, point);
-    bool zeroSeen = false;
-    for (char c : integerPart) {
-        if (c == ',') {
-            layout.grouped = true;
-        } else if (c == '#' || c == '0') {
-            ++layout.integerPlaceholders;
-            zeroSeen = zeroSeen || c == '0';
-            if (zeroSeen)
-                ++layout.integerMinimum;
+    size_t mantissaEnd = mask.size();
+    for (size_t i = 0; i + 1 < mask.size(); ++i) {
+        if ((mask[i] == 'E' || mask[i] == 'e') && (mask[i + 1] == '+' || mask[i + 1] == '-')) {
+            layout.scientific = true;
+            layout.exponentSignAlways = mask[i + 1] == '+';
+            for (char c : mask.substr(i + 2))
+                if (c == '0' || c == '#')
+                    ++layout.exponentDigits;
+            mantissaEnd = i;
+            break;
         }
+        if (mask[i] == 'E' || mask[i] == 'e')
+            break; // only the first E of a mask can open its exponent
     }
-    if (layout.hasPoint) {
-        for (char c : mantissa.substr(point + 1)) {
-            if (c == '0' || c == '#')
-                ++layout.fractionMaximum;
+    bool zeroSeen = false;
+    for (char c : mask.substr(0, mantissaEnd)) {
+        if (c == '.' && !layout.hasPoint) {
+            layout.hasPoint = true;
+        } else if (!layout.hasPoint) {
+            if (c == ',') {
+                layout.grouped = true;
+            } else if (c == '#' || c == '0') {
+                ++layout.integerPlaceholders;
+                zeroSeen = zeroSeen || c == '0';
+                if (zeroSeen)
+                    ++layout.integerMinimum;
+            }
+        } else if (c == '0' || c == '#') {
+            ++layout.fractionMaximum;
             if (c == '0')
                 ++layout.fractionMinimum;
         }
@@ -63,7 +66,9 @@ MaskLayout readMask(std::string_view mask)
 // The magnitude as fifteen significant decimal digits and the power of ten of
 // the first one: value = 0.d1d2...d15 * 10^(exponent + 1).
 struct DecimalForm {
-    std::string digits; // 15 digits, empty for zero
+    static constexpr int kDigits = 15;
+    char digits[kDigits + 1] = {};
+    int count = 0; // 15, fewer after rounding, 0 for zero
     int exponent = 0;
 };
 
@@ -72,11 +77,13 @@ DecimalForm decimalForm(double magnitude)
     DecimalForm form;
     if (magnitude == 0.0)
         return form;
+    // The text of printf's "%.14e": d.dddddddddddddde±xx.
     char buffer[40];
-    std::snprintf(buffer, sizeof buffer, "%.14e", magnitude);
-    form.digits.push_back(buffer[0]);
-    form.digits.append(buffer + 2, 14);
-    form.exponent = std::atoi(buffer + 17);
+    const auto end = std::to_chars(buffer, buffer + sizeof buffer, magnitude, std::chars_format::scientific, 14).ptr;
+    form.digits[0] = buffer[0];
+    std::memcpy(form.digits + 1, buffer + 2, DecimalForm::kDigits - 1);
+    form.count = DecimalForm::kDigits;
+    std::from_chars(buffer + 17 + (buffer[17] == '+'), end, form.exponent);
     return form;
 }
 
@@ -85,49 +92,50 @@ DecimalForm decimalForm(double magnitude)
 // or a single unit digit when the dropped part reaches a half.
 void roundDigits(DecimalForm& form, int keep)
 {
-    if (form.digits.empty() || keep >= static_cast<int>(form.digits.size()))
+    if (form.count == 0 || keep >= form.count)
         return;
     if (keep < 0) {
-        form.digits.clear();
+        form.count = 0;
         return;
     }
-    const bool up = form.digits[static_cast<size_t>(keep)] >= '5';
-    form.digits.resize(static_cast<size_t>(keep));
+    const bool up = form.digits[keep] >= '5';
+    form.count = keep;
     if (!up) {
-        if (form.digits.find_first_not_of('0') == std::string::npos)
-            form.digits.clear();
+        if (std::all_of(form.digits, form.digits + keep, [](char d) { return d == '0'; }))
+            form.count = 0;
         return;
     }
     int i = keep - 1;
-    while (i >= 0 && form.digits[static_cast<size_t>(i)] == '9')
-        form.digits[static_cast<size_t>(i--)] = '0';
+    while (i >= 0 && form.digits[i] == '9')
+        form.digits[i--] = '0';
     if (i >= 0) {
-        ++form.digits[static_cast<size_t>(i)];
+        ++form.digits[i];
     } else {
-        form.digits.insert(form.digits.begin(), '1');
+        // All nines: 1 and the zeros, one place up, still `keep` digits long.
+        std::memmove(form.digits + 1, form.digits, static_cast<size_t>(keep));
+        form.digits[0] = '1';
         ++form.exponent;
-        if (keep >= 0 && form.digits.size() > static_cast<size_t>(keep) && keep > 0)
-            form.digits.pop_back();
+        form.count = keep > 0 ? keep : 1;
     }
 }
 
-std::string groupThousands(const std::string& integerDigits, char separator)
+// The digit at a place of the decimal form, zero beyond its digits.
+char digitAt(const DecimalForm& form, int at)
 {
-    std::string grouped;
-    const size_t n = integerDigits.size();
-    for (size_t i = 0; i < n; ++i) {
-        if (i > 0 && (n - i) % 3 == 0)
-            grouped.push_back(separator);
-        grouped.push_back(integerDigits[i]);
-    }
-    return grouped;
+    return at >= 0 && at < form.count ? form.digits[at] : '0';
 }
 
-std::string trimFraction(std::string fraction, int minimum)
+// The point and the fraction's digits up to the mask's count, without the
+// trailing zeros beyond its '0' places.
+template <typename Digit>
+void appendFraction(std::string& text, const MaskLayout& layout, NumberSymbols symbols, Digit digit)
 {
-    while (static_cast<int>(fraction.size()) > minimum && fraction.back() == '0')
-        fraction.pop_back();
-    return fraction;
+    text.push_back(symbols.decimalPoint);
+    const size_t start = text.size();
+    for (int i = 0; i < layout.fractionMaximum; ++i)
+        text.push_back(digit(i));
+    while (text.size() - start > static_cast<size_t>(layout.fractionMinimum) && text.back() == '0')
+        text.pop_back();
 }
 
 std::string fixedText(double magnitude, const MaskLayout& layout, NumberSymbols symbols, bool& isZero)
@@ -135,29 +143,19 @@ std::string fixedText(double magnitude, const MaskLayout& layout, NumberSymbols 
     DecimalForm form = decimalForm(magnitude);
     // Digits kept: those before the point plus the mask's decimals.
     roundDigits(form, form.exponent + 1 + layout.fractionMaximum);
-    isZero = form.digits.empty();
+    isZero = form.count == 0;
 
-    std::string integerDigits;
-    std::string fraction;
-    if (!isZero) {
-        const int pointAt = form.exponent + 1; // digits before the point
-        for (int i = 0; i < pointAt; ++i)
-            integerDigits.push_back(i < static_cast<int>(form.digits.size()) ? form.digits[static_cast<size_t>(i)] : '0');
-        for (int i = 0; i < layout.fractionMaximum; ++i) {
-            const int at = pointAt + i;
-            fraction.push_back(at >= 0 && at < static_cast<int>(form.digits.size()) ? form.digits[static_cast<size_t>(at)] : '0');
-        }
-    } else {
-        fraction.assign(static_cast<size_t>(layout.fractionMaximum), '0');
+    const int pointAt = isZero ? 0 : form.exponent + 1; // digits before the point
+    const int integerDigits = std::max(pointAt, layout.integerMinimum);
+    std::string text;
+    text.reserve(static_cast<size_t>(integerDigits + integerDigits / 3 + layout.fractionMaximum + 2));
+    for (int i = 0; i < integerDigits; ++i) {
+        if (layout.grouped && i > 0 && (integerDigits - i) % 3 == 0)
+            text.push_back(symbols.groupSeparator);
+        text.push_back(digitAt(form, i - (integerDigits - pointAt)));
     }
-    if (static_cast<int>(integerDigits.size()) < layout.integerMinimum)
-        integerDigits.insert(0, static_cast<size_t>(layout.integerMinimum) - integerDigits.size(), '0');
-
-    std::string text = layout.grouped ? groupThousands(integerDigits, symbols.groupSeparator) : integerDigits;
-    if (layout.hasPoint) {
-        text.push_back(symbols.decimalPoint);
-        text += trimFraction(fraction, layout.fractionMinimum);
-    }
+    if (layout.hasPoint)
+        appendFraction(text, layout, symbols, [&](int i) { return digitAt(form, pointAt + i); });
     return text;
 }
 
@@ -166,23 +164,22 @@ std::string scientificText(double magnitude, const MaskLayout& layout, NumberSym
     const int leading = layout.integerPlaceholders > 0 ? layout.integerPlaceholders : 1;
     DecimalForm form = decimalForm(magnitude);
     roundDigits(form, leading + layout.fractionMaximum);
-    isZero = form.digits.empty();
-    form.digits.resize(static_cast<size_t>(leading + layout.fractionMaximum), '0');
+    isZero = form.count == 0;
 
-    std::string text = form.digits.substr(0, static_cast<size_t>(leading));
-    if (layout.hasPoint) {
-        text.push_back(symbols.decimalPoint);
-        text += trimFraction(form.digits.substr(static_cast<size_t>(leading)), layout.fractionMinimum);
-    }
+    std::string text;
+    for (int i = 0; i < leading; ++i)
+        text.push_back(digitAt(form, i));
+    if (layout.hasPoint)
+        appendFraction(text, layout, symbols, [&](int i) { return digitAt(form, leading + i); });
     const int exponent = isZero ? 0 : form.exponent - (leading - 1);
     text.push_back('E');
     if (exponent < 0)
         text.push_back('-');
     else if (layout.exponentSignAlways)
         text.push_back('+');
-    std::string exponentDigits = std::to_string(std::abs(exponent));
+    const std::string exponentDigits = std::to_string(std::abs(exponent));
     if (static_cast<int>(exponentDigits.size()) < layout.exponentDigits)
-        exponentDigits.insert(0, static_cast<size_t>(layout.exponentDigits) - exponentDigits.size(), '0');
+        text.append(static_cast<size_t>(layout.exponentDigits) - exponentDigits.size(), '0');
     return text + exponentDigits;
 }
 
@@ -210,8 +207,7 @@ std::string plainNumberText(double value)
     if (value == 0.0)
         return "0";
     char buffer[40];
-    std::snprintf(buffer, sizeof buffer, "%.7g", value);
-    std::string text = buffer;
+    std::string text(buffer, std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::general, 7).ptr);
     const auto e = text.find('e');
     if (e == std::string::npos)
         return text;

@@ -3,6 +3,7 @@
 #include "numeric/numeric_fault.h"
 
 #include <cctype>
+#include <charconv>
 #include <cerrno>
 #include <clocale>
 #include <cmath>
@@ -87,8 +88,15 @@ double parseFieldNumber(std::string_view text, char groupSeparator, char decimal
     const std::string plain = plainForm(text, groupSeparator, decimalPoint);
     if (!isPlainNumber(plain))
         return 0.0;
+    // The correctly rounded double, as strtod gives it; strtod itself for
+    // the magnitudes beyond a double's range, whose overflow is a fault and
+    // whose underflow reads as the nearest tiny value or zero.
+    double value = 0.0;
+    const char* first = plain.data() + (plain.front() == '+');
+    if (std::from_chars(first, plain.data() + plain.size(), value).ec == std::errc())
+        return value;
     errno = 0;
-    const double value = strtod_l(plain.c_str(), nullptr, cLocale());
+    value = strtod_l(plain.c_str(), nullptr, cLocale());
     if (errno == ERANGE && std::isinf(value))
         raiseFault(FaultKind::Overflow, "a field's number");
     return value;
@@ -105,6 +113,34 @@ Single fieldSingleOr0(std::string_view text) noexcept
         return fieldSingle(text);
     } catch (const NumericFault&) {
         return Single();
+    }
+}
+
+bool fieldReadsAsZero(std::string_view text) noexcept
+{
+    // A shown number's usual text (a sign first, digits, separators, one
+    // point, no exponent, at most 20 characters) is zero exactly when it has
+    // no digit but zeros: its other values are all well inside a single's
+    // range and above its least magnitude. A text without a digit is no
+    // number and reads as 0.
+    if (text.size() <= 20) {
+        bool usual = true, point = false, nonzero = false;
+        for (size_t i = 0; i < text.size() && usual; ++i) {
+            const char c = text[i];
+            if (c >= '0' && c <= '9')
+                nonzero = nonzero || c != '0';
+            else if (c == '.' && !point)
+                point = true;
+            else if (c != ',' && !((c == '-' || c == '+') && i == 0))
+                usual = false;
+        }
+        if (usual)
+            return !nonzero;
+    }
+    try {
+        return fieldSingle(text) == 0;
+    } catch (const NumericFault&) {
+        return false;
     }
 }
 

@@ -29,6 +29,9 @@ Single fieldSingleOr0(std::string_view text) noexcept;
 // requiredFieldSingle: a text that is no number (an empty one included) is a
 // fault too (invalid operation), for the tools that empty their form on it.
 Single requiredFieldSingle(std::string_view text);
+// Whether fieldSingle reads a text as 0 without a fault (a text that no
+// single can hold does not read as 0). Quick for the text of a shown number.
+bool fieldReadsAsZero(std::string_view text) noexcept;
 // The same reading kept in double, for a text that is converted before it is stored.
 double requiredFieldNumber(std::string_view text);
 

@@ -5,6 +5,8 @@
 #include "numeric/numeric_fault.h"
 #include "units/basLoadUnits.h"
 
+#include <cstring>
+
 namespace kestrova {
 
 std::string unitFieldText(const FieldKind& kind, Single value, UnitIndex unit)
@@ -30,20 +32,23 @@ Single unitFieldValue(const FieldKind& kind, std::string_view text, UnitIndex un
 std::string maskSample(const char* mask)
 {
     std::string sample = "-";
-    for (const char* c = mask; c && *c; ++c)
-        sample += (*c == '#' || *c == '0') ? '8' : *c;
+    if (mask)
+        sample += mask;
+    for (char& c : sample)
+        if (c == '#' || c == '0')
+            c = '8';
     return sample;
 }
 
+// A mask's sample is one character longer than the mask: the longest mask
+// gives the widest text, the first of equals as before.
 std::string widestText(const FieldKind& kind)
 {
-    std::string widest;
-    for (const char* mask : kind.masks) {
-        const std::string sample = mask ? maskSample(mask) : std::string();
-        if (sample.size() > widest.size())
-            widest = sample;
-    }
-    return widest;
+    const char* longest = nullptr;
+    for (const char* mask : kind.masks)
+        if (mask && (!longest || std::strlen(mask) > std::strlen(longest)))
+            longest = mask;
+    return longest ? maskSample(longest) : std::string();
 }
 
 } // namespace kestrova

@@ -9,12 +9,12 @@
 
 #include <QObject>
 
-#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <type_traits>
 #include <utility>
+#include <vector>
 
 namespace kestrova {
 
@@ -69,29 +69,43 @@ protected:
     // states stay where the model keeps them.
     class ControlRegistry {
     public:
+        // The states of one control array, or of a single control as an
+        // array of one under its index.
         template <typename State>
-        void add(const Control& control, State& state) { table<State>()[key(control)] = &state; }
+        struct Family {
+            std::string_view name;
+            int first;
+            State* states;
+            size_t count;
+        };
+        template <typename State>
+        using Table = std::vector<Family<State>>;
+
+        template <typename State>
+        void add(const Control& control, State& state) { table<State>().push_back({control.family, control.index, &state, 1}); }
         template <typename Array>
         void family(std::string_view name, Array& states, int first = 0)
         {
-            for (size_t i = 0; i < states.size(); ++i)
-                add(Control{name, first + static_cast<int>(i)}, states[i]);
+            table<typename Array::value_type>().push_back({name, first, states.data(), states.size()});
         }
+        // The latest registration of a control wins.
         template <typename State>
-        static State* find(const Control& control, const std::map<std::pair<std::string_view, int>, State*>& in)
+        static State* find(const Control& control, const Table<State>& in)
         {
-            const auto found = in.find(key(control));
-            return found == in.end() ? nullptr : found->second;
+            for (auto f = in.rbegin(); f != in.rend(); ++f)
+                if (f->name == control.family && control.index >= f->first &&
+                    static_cast<size_t>(control.index - f->first) < f->count)
+                    return f->states + (control.index - f->first);
+            return nullptr;
         }
 
-        std::map<std::pair<std::string_view, int>, TextControl*> texts;
-        std::map<std::pair<std::string_view, int>, ListControl*> lists;
-        std::map<std::pair<std::string_view, int>, LabelControl*> labels;
-        std::map<std::pair<std::string_view, int>, FrameControl*> frames;
-        std::map<std::pair<std::string_view, int>, ButtonControl*> buttons;
+        Table<TextControl> texts;
+        Table<ListControl> lists;
+        Table<LabelControl> labels;
+        Table<FrameControl> frames;
+        Table<ButtonControl> buttons;
 
     private:
-        static std::pair<std::string_view, int> key(const Control& control) { return {control.family, control.index}; }
         template <typename State>
         auto& table()
         {

@@ -39,6 +39,14 @@ public:
 
     void run(OrificeUnknown unknown)
     {
+        // The flow and the differential pressure start by dividing the bore by
+        // the pipe ID. Without a pipe ID (every fresh form) that division ends
+        // the run: it ends here the same way, without raising the fault.
+        if (unknown != OrificeUnknown::OrificeDiameter && r_.pipeID == 0) {
+            warnLiquid_ = kPipeIdZero;
+            showBothWarnings();
+            return;
+        }
         try {
             switch (unknown) {
             case OrificeUnknown::Flow: solveFlow(); break;
@@ -49,13 +57,17 @@ public:
             }
             commonResults(unknown == OrificeUnknown::OrificeDiameter);
         } catch (const NumericFault&) {
-            display_.showErrorGas(warnGas_);
-            display_.showErrorLiquid(warnLiquid_);
+            showBothWarnings();
         }
     }
 
 private:
     std::string& warning() { return gas_ ? warnGas_ : warnLiquid_; }
+    void showBothWarnings()
+    {
+        display_.showErrorGas(warnGas_);
+        display_.showErrorLiquid(warnLiquid_);
+    }
     void showWarning() { gas_ ? display_.showErrorGas(warnGas_) : display_.showErrorLiquid(warnLiquid_); }
     void show(int index, double value, const char* mask) { display_.showDisplay(index, formatMask(value, mask)); }
     double viscosityCentipoise() const { return mu_ * 1000; }

@@ -251,13 +251,10 @@ void PumpNetworkModel::CleanGrid()
 {
     for (int r = 1; r < kGridRows; ++r)
         for (int c = 2; c < kGridColumns; ++c) {
+            // A cell whose text cannot be read as a single stays as it is.
             std::string& cell = grid[static_cast<size_t>(r)][static_cast<size_t>(c)];
-            try {
-                if (!cell.empty() && fieldSingle(cell) == 0)
-                    cell.clear();
-            } catch (const NumericFault&) {
-                // resume next: the cell stays as it is
-            }
+            if (!cell.empty() && fieldReadsAsZero(cell))
+                cell.clear();
         }
 }
 
