@@ -29,15 +29,22 @@ std::string generalText(double value, int digits)
 
 } // namespace
 
-std::string quoted(std::string_view text)
+void appendQuoted(std::string& json, std::string_view text)
 {
     if (plainJson(text)) {
-        std::string json;
-        json.reserve(text.size() + 2);
-        return json.append(1, '"').append(text).append(1, '"');
+        json.append(1, '"').append(text).append(1, '"');
+        return;
     }
     // Replace what is not UTF-8 rather than fail on a message text.
-    return nlohmann::json(std::string(text)).dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
+    json += nlohmann::json(std::string(text)).dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
+}
+
+std::string quoted(std::string_view text)
+{
+    std::string json;
+    json.reserve(text.size() + 2);
+    appendQuoted(json, text);
+    return json;
 }
 
 std::string singleText(double value)
@@ -54,7 +61,7 @@ void JsonObject::key(std::string_view name)
 {
     if (!body_.empty())
         body_ += ", ";
-    body_ += quoted(name);
+    appendQuoted(body_, name);
     body_ += ": ";
 }
 
@@ -84,7 +91,7 @@ JsonObject& JsonObject::integer(std::string_view name, long long value)
 JsonObject& JsonObject::text(std::string_view name, std::string_view value)
 {
     key(name);
-    body_ += quoted(value);
+    appendQuoted(body_, value);
     return *this;
 }
 

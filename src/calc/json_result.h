@@ -26,6 +26,7 @@ private:
 };
 
 std::string quoted(std::string_view text);
+void appendQuoted(std::string& json, std::string_view text);
 std::string singleText(double value);
 std::string realText(double value);
 

@@ -95,7 +95,7 @@ template <typename Commit>
 void applyTexts(const json& texts, const std::string& family, int count, Commit commit)
 {
     for (const auto& [index, value] : controlsOf(texts, family, count))
-        commit(index, textValue(*value, family + "(" + std::to_string(index) + ")"));
+        commit(index, textValue(*value, Control{family, index}.name()));
 }
 
 // Chooses the unit lists named in `units` through `setUnit`.
@@ -104,7 +104,7 @@ void applyUnits(const json& units, int count, SetUnit setUnit)
 {
     checkControlNames(units, {{"cboUnits", count}});
     for (const auto& [index, value] : controlsOf(units, "cboUnits", count)) {
-        const double number = numberValue(*value, "cboUnits(" + std::to_string(index) + ")");
+        const double number = numberValue(*value, Control{"cboUnits", index}.name());
         FaultScope scope("arguments");
         setUnit(index, roundToInteger16(number));
     }
@@ -267,7 +267,7 @@ void flowConversionsConvert(const RequestArgs& a, JsonObject& result)
     const int field = std::clamp<int>(a.integer16("field"), 0, 7);
     std::map<int, std::string> given;
     for (const auto& [index, value] : controlsOf(texts, "txtData", 8))
-        given[index] = textValue(*value, "txtData(" + std::to_string(index) + ")");
+        given[index] = textValue(*value, Control{"txtData", index}.name());
     // The other given fields were left before: they hold their values; a
     // field that takes no typing keeps its own text.
     for (const auto& [index, text] : given)
@@ -282,7 +282,7 @@ void flowConversionsConvert(const RequestArgs& a, JsonObject& result)
     const FlowConversionsState& form = tool.view();
     JsonObject shown;
     for (int i = 0; i < 8; ++i)
-        shown.text("txtData(" + std::to_string(i) + ")", form.txtData[static_cast<size_t>(i)].text);
+        shown.text(Control{"txtData", i}.name(), form.txtData[static_cast<size_t>(i)].text);
     const FlowConversionsData& v = form.values;
     JsonObject fields;
     fields.single("StdTemperature", v.StdTemperature)
@@ -319,7 +319,7 @@ void gasDensityCompute(const RequestArgs& a, JsonObject& result)
     tool.ComputeDensity();
     JsonObject texts;
     for (int i = 0; i < gas_density::kFields; ++i)
-        texts.text("txtData(" + std::to_string(i) + ")", shownText(tool, unit_field_dialog::txtData(i)));
+        texts.text(Control{"txtData", i}.name(), shownText(tool, unit_field_dialog::txtData(i)));
     result.single("density", tool.record().density).raw("texts", texts.str());
 }
 
@@ -387,7 +387,7 @@ void reducerRow(ReducerKind kind, const RequestArgs& a, JsonObject& result)
         tool.commit(reducer::txtAngle(row), a.textOr("angle", ""));
     if (!tool.focusRequest())
         tool.commit(reducer::txtBeta(row), a.textOr("beta", ""));
-    result.text("txtKValue(" + std::to_string(row) + ")", tool.view().txtKValue[static_cast<size_t>(row)].text)
+    result.text(Control{"txtKValue", row}.name(), tool.view().txtKValue[static_cast<size_t>(row)].text)
         .raw("messages", messagesJson(ui));
 }
 

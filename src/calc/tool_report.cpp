@@ -62,9 +62,9 @@ void reportPressureDrop(const PressureDropModel& model, const ScriptedUserInterf
         record.single(kFieldNames[i], *fields[static_cast<size_t>(i)]);
     JsonObject texts;
     for (int i = 0; i < kPressureDropFields; ++i)
-        texts.text("txtData(" + std::to_string(i) + ")", tool.txtData[static_cast<size_t>(i)].text);
+        texts.text(Control{"txtData", i}.name(), tool.txtData[static_cast<size_t>(i)].text);
     for (int i = 0; i < PressureDropModel::kDisplays; ++i)
-        texts.text("txtDisplay(" + std::to_string(i) + ")", tool.txtDisplay[static_cast<size_t>(i)].text);
+        texts.text(Control{"txtDisplay", i}.name(), tool.txtDisplay[static_cast<size_t>(i)].text);
     JsonObject frames;
     frames.raw("Frame1(5)", frameJson(tool.Frame1[pressure_drop::GasResultsFrame]))
         .raw("Frame1(8)", frameJson(tool.Frame1[pressure_drop::TwoPhaseResultsFrame]));
@@ -86,9 +86,9 @@ void reportOrifice(const OrificeModel& model, JsonObject& result)
         record.single(OrificeData::names()[static_cast<size_t>(i)], *fields[static_cast<size_t>(i)]);
     JsonObject texts;
     for (int i = 0; i < OrificeModel::kFields; ++i)
-        texts.text("txtData(" + std::to_string(i) + ")", tool.txtData[static_cast<size_t>(i)].text);
+        texts.text(Control{"txtData", i}.name(), tool.txtData[static_cast<size_t>(i)].text);
     for (int i = 0; i < OrificeModel::kDisplays; ++i)
-        texts.text("txtDisplay(" + std::to_string(i) + ")", tool.txtDisplay[static_cast<size_t>(i)].text);
+        texts.text(Control{"txtDisplay", i}.name(), tool.txtDisplay[static_cast<size_t>(i)].text);
     texts.text("txtErrorLiquid", tool.txtErrorLiquid.text).text("txtErrorGas", tool.txtErrorGas.text);
     result.raw("record", record.str()).raw("texts", texts.str());
 }
@@ -135,7 +135,7 @@ void reportPumpNetwork(const PumpNetworkModel& tool, JsonObject& result)
         result.single(name, *networkScalar(s, name));
     JsonObject texts;
     for (int i = 0; i < PumpNetworkModel::kFields; ++i)
-        texts.text("txtData(" + std::to_string(i) + ")", form.txtData[static_cast<size_t>(i)].text);
+        texts.text(Control{"txtData", i}.name(), form.txtData[static_cast<size_t>(i)].text);
     std::string rows = "[";
     for (size_t r = 0; r < form.grid.size(); ++r) {
         rows += r ? ", [" : "[";

@@ -2,6 +2,7 @@
 
 #include "numeric/numeric_fault.h"
 
+#include <algorithm>
 #include <cctype>
 #include <charconv>
 #include <cerrno>
@@ -116,27 +117,53 @@ Single fieldSingleOr0(std::string_view text) noexcept
     }
 }
 
+namespace {
+
+// A shown number's usual text: a sign first, digits, separators, one point,
+// then perhaps an exponent of one or two digits up to 15; 20 characters at
+// most. Its value is well inside a single's range and above its least
+// magnitude, so that it reads as 0 exactly when its digits are all zeros.
+// `exponentAt` is where the text's first E is, or its length.
+bool isUsualNumberText(std::string_view text, size_t exponentAt)
+{
+    if (text.size() > 20)
+        return false;
+    bool point = false, digit = false;
+    for (size_t i = 0; i < exponentAt; ++i) {
+        const char c = text[i];
+        if (c >= '0' && c <= '9')
+            digit = true;
+        else if (c == '.' && !point)
+            point = true;
+        else if (c != ',' && !((c == '-' || c == '+') && i == 0))
+            return false;
+    }
+    if (!digit)
+        return false;
+    if (exponentAt == text.size())
+        return true;
+    std::string_view exponent = text.substr(exponentAt + 1);
+    if (!exponent.empty() && (exponent.front() == '+' || exponent.front() == '-'))
+        exponent.remove_prefix(1);
+    int power = 0;
+    const auto [end, error] = std::from_chars(exponent.data(), exponent.data() + exponent.size(), power);
+    return error == std::errc() && end == exponent.data() + exponent.size() && exponent.size() <= 2 && power <= 15;
+}
+
+} // namespace
+
 bool fieldReadsAsZero(std::string_view text) noexcept
 {
-    // A shown number's usual text (a sign first, digits, separators, one
-    // point, no exponent, at most 20 characters) is zero exactly when it has
-    // no digit but zeros: its other values are all well inside a single's
-    // range and above its least magnitude. A text without a digit is no
-    // number and reads as 0.
-    if (text.size() <= 20) {
-        bool usual = true, point = false, nonzero = false;
-        for (size_t i = 0; i < text.size() && usual; ++i) {
-            const char c = text[i];
-            if (c >= '0' && c <= '9')
-                nonzero = nonzero || c != '0';
-            else if (c == '.' && !point)
-                point = true;
-            else if (c != ',' && !((c == '-' || c == '+') && i == 0))
-                usual = false;
-        }
-        if (usual)
-            return !nonzero;
-    }
+    // Without a digit other than 0 before its exponent, a text is either a
+    // number that is zero or no number at all, which reads as 0.
+    size_t exponentAt = 0;
+    bool nonzero = false;
+    for (; exponentAt < text.size() && text[exponentAt] != 'E' && text[exponentAt] != 'e'; ++exponentAt)
+        nonzero = nonzero || (text[exponentAt] >= '1' && text[exponentAt] <= '9');
+    if (!nonzero)
+        return true;
+    if (isUsualNumberText(text, exponentAt))
+        return false;
     try {
         return fieldSingle(text) == 0;
     } catch (const NumericFault&) {

@@ -5,11 +5,16 @@
 #include "numeric/numeric_fault.h"
 #include "units/basLoadUnits.h"
 
+#include <array>
+#include <bit>
+#include <cstdint>
 #include <cstring>
 
 namespace kestrova {
 
-std::string unitFieldText(const FieldKind& kind, Single value, UnitIndex unit)
+namespace {
+
+std::string makeUnitFieldText(const FieldKind& kind, Single value, UnitIndex unit)
 {
     if (unit < 0 || static_cast<size_t>(unit) >= unitList(kind.tag).size())
         return {};
@@ -18,6 +23,36 @@ std::string unitFieldText(const FieldKind& kind, Single value, UnitIndex unit)
     } catch (const NumericFault&) {
         return {};
     }
+}
+
+// The texts lately made, by what makes them: the list (its tag), the
+// conversion, the mask, the unit and the single's bits. A window shows the
+// same values again at every refresh; a text found here is not made again.
+struct ShownText {
+    const char* tag = nullptr;
+    double (*toUnit)(double, UnitIndex) = nullptr;
+    const char* mask = nullptr;
+    UnitIndex unit = 0;
+    std::uint32_t bits = 0;
+    std::string text;
+};
+constexpr size_t kShownTexts = 256;
+
+} // namespace
+
+std::string unitFieldText(const FieldKind& kind, Single value, UnitIndex unit)
+{
+    const char* mask = unit >= 0 && static_cast<size_t>(unit) < kind.masks.size() ? kind.masks[static_cast<size_t>(unit)]
+                                                                                 : nullptr;
+    const auto bits = std::bit_cast<std::uint32_t>(value.value());
+    const size_t slot = (bits * 2654435761u ^ reinterpret_cast<std::uintptr_t>(mask) >> 3 ^
+                         static_cast<size_t>(unit) * 40503u) % kShownTexts;
+    thread_local std::array<ShownText, kShownTexts> shown;
+    ShownText& entry = shown[slot];
+    if (entry.tag != kind.tag || entry.toUnit != kind.toUnit || entry.mask != mask || entry.unit != unit ||
+        entry.bits != bits || !entry.toUnit)
+        entry = {kind.tag, kind.toUnit, mask, unit, bits, makeUnitFieldText(kind, value, unit)};
+    return entry.text;
 }
 
 Single unitFieldValue(const FieldKind& kind, std::string_view text, UnitIndex unit) noexcept

@@ -39,7 +39,11 @@ INSTANTIATE_TEST_SUITE_P(FixedPoint, DisplayMask, testing::Values(
     MaskCase{12.3456, "#0.000", "12.346"},
     MaskCase{5, "##0.00", "5.00"},
     MaskCase{0.004999, "0.00", "0.00"},
-    MaskCase{1e20, "##,##0", "100,000,000,000,000,000,000"}));
+    MaskCase{1e20, "##,##0", "100,000,000,000,000,000,000"},
+    MaskCase{99999.95, "##,##0.0", "100,000.0"},         // a carry that adds a group
+    MaskCase{16.04f, "##0.0000", "16.0400"},              // a stored single, 16.0400009...
+    MaskCase{0.85f, "0.00000", "0.85000"},
+    MaskCase{1e-300, "0.00", "0.00"}));
 
 INSTANTIATE_TEST_SUITE_P(AllHashIntegers, DisplayMask, testing::Values(
     MaskCase{0, "#,###,###", ""},                         // zero prints nothing
@@ -63,6 +67,8 @@ INSTANTIATE_TEST_SUITE_P(Scientific, DisplayMask, testing::Values(
     MaskCase{-5.72519093e-05, "0.000E+00", "-5.725E-05"},
     MaskCase{9.99995, "0.0000E+00", "1.0000E+01"},        // mantissa carry raises the exponent
     MaskCase{1e100, "0.00E+00", "1.00E+100"},
+    MaskCase{1e-300, "0.00E+00", "1.00E-300"},
+    MaskCase{0.85f, "0.0000E+00", "8.5000E-01"},
     MaskCase{1.5e-7, "0.00E-00", "1.50E-07"},
     MaskCase{1.5e7, "0.00E-00", "1.50E07"}));
 

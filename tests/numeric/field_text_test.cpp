@@ -66,7 +66,7 @@ TEST(FieldText, ReadsAsZeroAgreesWithTheSingleRead)
             return false;
         }
     };
-    const std::string alphabet = "0.,-+5eE ";
+    const std::string alphabet = "0.,-+5eE 1";
     std::vector<std::string> texts{""};
     for (size_t length = 1, from = 0; length <= 4; ++length) {
         const size_t to = texts.size();
@@ -77,7 +77,8 @@ TEST(FieldText, ReadsAsZeroAgreesWithTheSingleRead)
     }
     for (const char* text : {"0.00E+05", "1E-50", "1E+39", "-0.00", "0.000000000000000000001",
                              "100,000,000,000,000,000,000,000,000,000,000,000,000", "1,234.5", "12345678901234567890",
-                             "0.0000000000000000001", "-,0,.", ",-5", "1.2.3"})
+                             "0.0000000000000000001", "-,0,.", ",-5", "1.2.3", "1.00E+00", "1E+15", "1E-15", "9.99E+16",
+                             "1e+99", "1e-99", "0.00000000000001E-15", "0.0000000000000001E-9", "1E+5x", "0E+5x", " 1", "1 "})
         texts.emplace_back(text);
     for (const std::string& text : texts)
         EXPECT_EQ(kestrova::fieldReadsAsZero(text), fullReading(text)) << '"' << text << '"';

@@ -6,7 +6,7 @@ std::string Control::name() const
 {
     std::string text(family);
     if (index >= 0)
-        text += "(" + std::to_string(index) + ")";
+        text.append(1, '(').append(std::to_string(index)).append(1, ')');
     return text;
 }
 
