@@ -45,8 +45,10 @@ std::string unitFieldText(const FieldKind& kind, Single value, UnitIndex unit)
     const char* mask = unit >= 0 && static_cast<size_t>(unit) < kind.masks.size() ? kind.masks[static_cast<size_t>(unit)]
                                                                                  : nullptr;
     const auto bits = std::bit_cast<std::uint32_t>(value.value());
-    const size_t slot = (bits * 2654435761u ^ reinterpret_cast<std::uintptr_t>(mask) >> 3 ^
-                         static_cast<size_t>(unit) * 40503u) % kShownTexts;
+    const std::uintptr_t source = reinterpret_cast<std::uintptr_t>(mask) ^ reinterpret_cast<std::uintptr_t>(kind.tag) * 31 ^
+                                  reinterpret_cast<std::uintptr_t>(kind.toUnit) * 131;
+    const size_t slot = ((bits ^ static_cast<std::uint32_t>(unit) << 24) * 2654435761u ^ source * 0x9E3779B97F4A7C15u >> 40) %
+                        kShownTexts;
     thread_local std::array<ShownText, kShownTexts> shown;
     ShownText& entry = shown[slot];
     if (entry.tag != kind.tag || entry.toUnit != kind.toUnit || entry.mask != mask || entry.unit != unit ||

@@ -8,6 +8,8 @@
 #include "tools/orifice/model/orifice_model.h"
 #include "tools/pump_network/model/pump_network_model.h"
 #include "units/basLoadUnits.h"
+#include "numeric/display_mask.h"
+#include "numeric/numeric_fault.h"
 
 #include <gtest/gtest.h>
 
@@ -100,4 +102,29 @@ TEST(UnitField, EveryNetworkFieldAndGridRowShowsInEveryUnitOfItsList)
     EXPECT_EQ(tool.view().grid[1][4], "");
     tool.setUnit(34, 0);
     EXPECT_EQ(tool.view().grid[1][4], "1");
+}
+
+// The shown texts are kept by list, conversion, mask, unit and value: asked
+// again in any order, by kinds whose masks are alike, each text is its own
+// value's conversion through its own mask, as formatted afresh.
+TEST(UnitField, KeptTextsAreEachValuesOwnText)
+{
+    namespace k = field_kinds;
+    const FieldKind* kinds[] = {&k::flow, &k::pressure, &k::temperature, &k::density, &k::viscosity, &k::diameter};
+    const Single values[] = {0.0, 16.04, 0.85, -40, 100, 1e30};
+    for (int pass = 0; pass < 3; ++pass)
+        for (const FieldKind* kind : kinds)
+            for (size_t u = 0; u < unitList(kind->tag).size(); ++u)
+                for (const Single value : values) {
+                    const auto unit = static_cast<UnitIndex>(pass == 1 ? unitList(kind->tag).size() - 1 - u : u);
+                    std::string afresh;
+                    try {
+                        afresh = formatMask(kind->toUnit(value, unit), kind->masks[static_cast<size_t>(unit)]);
+                    } catch (const NumericFault&) {
+                    }
+                    EXPECT_EQ(unitFieldText(*kind, value, unit), afresh) << kind->tag << " unit " << unit << " " << value;
+                }
+    EXPECT_EQ(unitFieldText(k::temperature, 212, 1), "100.00");
+    EXPECT_EQ(unitFieldText(k::temperature, 212, 0), "212.00");
+    EXPECT_EQ(unitFieldText(k::temperature, 212, 1), "100.00");
 }
