@@ -77,13 +77,22 @@ void AdiabaticGasFlow(const GasLineInlet& in, GasLineOutlet& out, UserFeedback& 
     double step = M1 - 1;
     bool ended = false;
     Single M2;
+    // The inlet's terms of F are the same in every round: the first round
+    // forms them where F forms them (so that a fault arises at the same
+    // step), the later rounds reuse them.
+    const double M1squared = Pow(M1, 2);
+    double inletTerm = 0, logFactor = 0;
     for (int round = 1; round <= kMaximumRounds && !ended; ++round) {
         step *= 0.5;
         M2 = base + step;
         out.outletMach = M2;
         const double A = 1 + (k - 1) / 2 * Pow(M2, 2);
-        const double L = Log(Div(Pow(M1, 2) * A, Pow(M2, 2) * A));
-        const double F = resistance - Div(1, Pow(M1, 2) * k) + Div(1, Pow(M2, 2) * k) - Div(k + 1, 2 * k) * L;
+        const double L = Log(Div(M1squared * A, Pow(M2, 2) * A));
+        if (round == 1) {
+            inletTerm = Div(1, M1squared * k);
+            logFactor = Div(k + 1, 2 * k);
+        }
+        const double F = resistance - inletTerm + Div(1, Pow(M2, 2) * k) - logFactor * L;
         if (F <= 0)
             base = M2;
         ended = std::fabs(step) < kTolerance || F == 0;

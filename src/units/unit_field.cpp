@@ -78,7 +78,7 @@ std::string maskSample(const char* mask)
 }
 
 // A mask's sample is one character longer than the mask: the longest mask
-// gives the widest text, the first of equals as before.
+// gives the widest text (the first of equally long ones).
 std::string widestText(const FieldKind& kind)
 {
     const char* longest = nullptr;

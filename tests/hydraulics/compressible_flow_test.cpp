@@ -162,7 +162,7 @@ TEST(GasFlowFaults, ZeroFlowAreaWeightOrCompressibility)
     GasLineOutlet out;
     RecordingFeedback user;
     GasLineInlet in = airLine(0, 5);
-    EXPECT_THROW(AdiabaticGasFlow(in, out, user), NumericFault); // 1 / (M1^2 k) with M1 = 0
+    EXPECT_THROW(AdiabaticGasFlow(in, out, user), NumericFault); // ln(M1^2 A / (M2^2 A)) with M1 = 0
     in = airLine(10000, 5);
     in.flowArea = 0;
     EXPECT_THROW(IsothermalGasFlow(in, out, user), NumericFault);
