@@ -3,10 +3,9 @@
 // window's refresh from its model, offscreen.
 
 #include "forms/model/scripted_user_interface.h"
-#include "forms/store/global_units.h"
+#include "frame/model/shared_stores.h"
 #include "tools/orifice/ui/frmOrificePlates.h"
 #include "tools/orifice/model/orifice_model.h"
-#include "tools/piping/model/minor_loss_store.h"
 #include "tools/pressure_drop/ui/frmPressureDrop.h"
 #include "tools/pressure_drop/model/pressure_drop_model.h"
 #include "tools/pump_network/model/pump_network_model.h"
@@ -39,11 +38,7 @@ template <typename Model, typename Window>
 struct ShownWindow {
     // The shared stores start afresh before the model reads them.
     struct FreshStores {
-        FreshStores()
-        {
-            globalUnits() = GlobalUnits{};
-            minorLossStore() = MinorLossStore{};
-        }
+        FreshStores() { resetSharedStores(); }
     } stores;
     ScriptedUserInterface ui;
     Model model{ui};
@@ -138,8 +133,7 @@ SegmentData coolingWaterPipes()
 // left, the pass over the network, every field and grid row shown again.
 void BM_PumpNetworkModelCommit(benchmark::State& state)
 {
-    globalUnits() = GlobalUnits{};
-    minorLossStore() = MinorLossStore{};
+    resetSharedStores();
     ScriptedUserInterface ui;
     PumpNetworkModel tool(ui);
     tool.Form_Load();

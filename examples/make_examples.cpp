@@ -3,8 +3,8 @@
 // options, entering each line's pipe data in the segment dialog, and saving.
 // Usage: kestrova-make-examples OUTPUT_FOLDER
 
-#include "forms/store/global_units.h"
 #include "forms/model/scripted_user_interface.h"
+#include "frame/model/shared_stores.h"
 #include "tools/orifice/model/orifice_model.h"
 #include "tools/piping/model/minor_loss_store.h"
 #include "tools/piping/model/pipe_data.h"
@@ -37,8 +37,7 @@ struct Case {
 
 bool save(const Case& c, const QDir& folder)
 {
-    globalUnits() = GlobalUnits{};
-    minorLossStore() = MinorLossStore{};
+    resetSharedStores();
     ScriptedUserInterface ui;
     PressureDropModel tool(ui);
     tool.Form_Load();
@@ -76,7 +75,7 @@ bool save(const Case& c, const QDir& folder)
 // Water through a beta 0.5 flange-tapped plate in 4 in pipe, solved for the flow.
 bool saveOrificeExample(const QDir& folder)
 {
-    globalUnits() = GlobalUnits{};
+    resetSharedStores();
     ScriptedUserInterface ui;
     OrificeModel tool(ui);
     tool.Form_Load();
@@ -125,8 +124,7 @@ bool savePumpNetworkExample(const QDir& folder)
     try {
         const PipeTable steel =
             readPipeTable(QDir(QCoreApplication::applicationDirPath()).filePath("pipeastm.sqlite"), "ECarbon Steel");
-        globalUnits() = GlobalUnits{};
-        minorLossStore() = MinorLossStore{};
+        resetSharedStores();
         ScriptedUserInterface ui;
         PumpNetworkModel tool(ui);
         tool.Form_Load();

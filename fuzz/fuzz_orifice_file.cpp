@@ -3,7 +3,7 @@
 
 #include "fuzz_support.h"
 
-#include "calc/tool_calls.h"
+#include "frame/model/shared_stores.h"
 #include "forms/model/scripted_user_interface.h"
 #include "tools/orifice/model/orifice_model.h"
 
@@ -12,7 +12,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     using namespace kestrova;
     fuzz::ensureApplication();
     const QString path = fuzz::projectFile(1, data, size);
-    calc::resetSharedState();
+    resetSharedStores();
     ScriptedUserInterface ui;
     OrificeModel tool(ui);
     tool.Form_Load();

@@ -4,7 +4,7 @@
 
 #include "fuzz_support.h"
 
-#include "calc/tool_calls.h"
+#include "frame/model/shared_stores.h"
 #include "forms/model/scripted_user_interface.h"
 #include "tools/pressure_drop/model/pressure_drop_model.h"
 
@@ -13,7 +13,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     using namespace kestrova;
     fuzz::ensureApplication();
     const QString path = fuzz::projectFile(2, data, size);
-    calc::resetSharedState();
+    resetSharedStores();
     ScriptedUserInterface ui;
     PressureDropModel tool(ui);
     tool.Form_Load();

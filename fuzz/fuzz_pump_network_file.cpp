@@ -4,7 +4,7 @@
 
 #include "fuzz_support.h"
 
-#include "calc/tool_calls.h"
+#include "frame/model/shared_stores.h"
 #include "forms/model/scripted_user_interface.h"
 #include "tools/pump_network/model/pump_network_model.h"
 
@@ -28,7 +28,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     using namespace kestrova;
     fuzz::ensureApplication();
     const QString path = fuzz::projectFile(3, data, size);
-    calc::resetSharedState();
+    resetSharedStores();
     ScriptedUserInterface ui;
     PumpNetworkModel tool(ui);
     tool.Form_Load();

@@ -4,6 +4,7 @@
 #include "calc/tool_calls.h"
 #include "calc/tool_report.h"
 #include "forms/model/document_file.h"
+#include "frame/model/shared_stores.h"
 #include "forms/store/project_file.h"
 #include "forms/model/scripted_user_interface.h"
 #include "tools/orifice/model/orifice_model.h"
@@ -28,7 +29,7 @@ std::string refusal(const std::string& message, bool& ok)
 template <typename Model, typename Report>
 std::string openInTool(const std::string& path, FileKind kind, bool activateAfterOpen, bool& ok, Report report)
 {
-    resetSharedState();
+    resetSharedStores();
     ScriptedUserInterface ui;
     Model tool(ui);
     tool.Form_Load();

@@ -1,7 +1,7 @@
 #include "calc/tool_calls.h"
 
 #include "calc/tool_report.h"
-#include "forms/store/global_units.h"
+#include "frame/model/shared_stores.h"
 #include "numeric/field_text.h"
 #include "numeric/display_mask.h"
 #include "numeric/numeric_fault.h"
@@ -10,9 +10,7 @@
 #include "tools/orifice/model/orifice_model.h"
 #include "tools/pump_network/model/pump_network_model.h"
 #include "tools/piping/model/minor_loss_store.h"
-#include "tools/piping/model/pipe_selection.h"
 #include "tools/pressure_drop/model/pressure_drop_model.h"
-#include "tools/properties/model/phys_props.h"
 #include "tools/flow/model/flow_conversions_model.h"
 #include "tools/flow/model/gas_density_model.h"
 #include "tools/piping/model/minor_losses_model.h"
@@ -112,7 +110,7 @@ void applyUnits(const json& units, int count, SetUnit setUnit)
 
 void pressureDropCalculateResults(const RequestArgs& a, JsonObject& result)
 {
-    resetSharedState();
+    resetSharedStores();
     ScriptedUserInterface ui;
     PressureDropModel tool(ui);
     tool.Form_Load();
@@ -146,7 +144,7 @@ void pressureDropCalculateResults(const RequestArgs& a, JsonObject& result)
 
 void orificePlatesComputeOrifice(const RequestArgs& a, JsonObject& result)
 {
-    resetSharedState();
+    resetSharedStores();
     ScriptedUserInterface ui;
     OrificeModel tool(ui);
     tool.Form_Load();
@@ -203,7 +201,7 @@ void applyScalar(const json& object, const char* name, Single& value)
 
 void pumpNetworkNetCalc(const RequestArgs& a, JsonObject& result)
 {
-    resetSharedState();
+    resetSharedStores();
     ScriptedUserInterface ui;
     PumpNetworkModel tool(ui);
     tool.Form_Load();
@@ -405,15 +403,6 @@ int controlIndex(const std::string& name, const std::string& family)
     return (error == std::errc() && end == last) ? index : -1;
 }
 
-void resetSharedState()
-{
-    globalUnits() = GlobalUnits{};
-    minorLossStore() = MinorLossStore{};
-    CurrentLine() = 0;
-    physProps() = PhysProps{};
-    propertiesCancelled() = false;
-    pipeToolRoughness() = 0.0;
-}
 
 void addToolCalls(std::map<std::string, CallSpec, std::less<>>& calls)
 {

@@ -11,7 +11,4 @@ void addToolCalls(std::map<std::string, CallSpec, std::less<>>& calls);
 // The index of a control name such as "txtData(5)" within its family, or -1.
 int controlIndex(const std::string& name, const std::string& family);
 
-// Puts the shared records of the program back to their state at start.
-void resetSharedState();
-
 } // namespace kestrova::calc
