@@ -11,6 +11,8 @@
 #include "tools/piping/model/minor_loss_store.h"
 #include "units/field_kinds.h"
 
+#include <bit>
+
 namespace kestrova {
 
 using namespace pump_network;
@@ -222,8 +224,8 @@ void PumpNetworkModel::showGridRow(int list)
     const LineValues& values = rowValues(network, segments, row.row);
     for (int line = 1; line <= 11; ++line)
         if (gridCellUsed(row.row, line + 1))
-            grid[static_cast<size_t>(row.row)][static_cast<size_t>(line + 1)] =
-                unitFieldText(*row.kind, values[static_cast<size_t>(line)], cboUnits[static_cast<size_t>(list)].listIndex);
+            setGridCell(row.row, line + 1,
+                        unitFieldText(*row.kind, values[static_cast<size_t>(line)], cboUnits[static_cast<size_t>(list)].listIndex));
 }
 
 void PumpNetworkModel::takeGlobalUnits()
@@ -241,21 +243,35 @@ void PumpNetworkModel::UpDateGridFromInput()
     const MinorLossStore& k = minorLossStore();
     for (int line = 1; line <= 11; ++line) {
         const auto l = static_cast<size_t>(line);
-        grid[K1Row][l + 1] = formatMask(k.SegK1[l], "#,###,###0.0");
-        grid[K2Row][l + 1] = formatMask(k.SegK2[l], "#,##0.000");
-        grid[K3Row][l + 1] = formatMask(k.SegK3[l], "#,##0.000");
+        setGridCell(K1Row, line + 1, formatMask(k.SegK1[l], "#,###,###0.0"));
+        setGridCell(K2Row, line + 1, formatMask(k.SegK2[l], "#,##0.000"));
+        setGridCell(K3Row, line + 1, formatMask(k.SegK3[l], "#,##0.000"));
     }
 }
 
+void PumpNetworkModel::setGridCell(int row, int column, std::string text)
+{
+    std::string& cell = grid.at(static_cast<size_t>(row)).at(static_cast<size_t>(column));
+    if (cell == text)
+        return; // the cleaning's verdict on it stands
+    cell = std::move(text);
+    cellsToClean_[static_cast<size_t>(row)] |= static_cast<std::uint16_t>(1u << column);
+}
+
+// Empties every value cell whose text reads as zero; a cell whose text cannot
+// be read as a single stays as it is. Only the cells written since the last
+// cleaning can have changed.
 void PumpNetworkModel::CleanGrid()
 {
-    for (int r = 1; r < kGridRows; ++r)
-        for (int c = 2; c < kGridColumns; ++c) {
-            // A cell whose text cannot be read as a single stays as it is.
-            std::string& cell = grid[static_cast<size_t>(r)][static_cast<size_t>(c)];
+    constexpr unsigned kValueColumns = ~0u << 2;
+    for (size_t r = 1; r < grid.size(); ++r) {
+        for (unsigned columns = cellsToClean_[r] & kValueColumns; columns != 0; columns &= columns - 1) {
+            std::string& cell = grid[r][static_cast<size_t>(std::countr_zero(columns))];
             if (!cell.empty() && fieldReadsAsZero(cell))
                 cell.clear();
         }
+        cellsToClean_[r] = 0;
+    }
 }
 
 } // namespace kestrova

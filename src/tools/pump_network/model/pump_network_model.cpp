@@ -23,7 +23,7 @@ public:
     void refresh(int field) override { model_.cboUnits_Click(field); }
     void gridCell(int row, int column, const std::string& text) override
     {
-        model_.grid.at(static_cast<size_t>(row)).at(static_cast<size_t>(column)) = text;
+        model_.setGridCell(row, column, text);
     }
     void endPass() override
     {

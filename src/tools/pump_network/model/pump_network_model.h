@@ -15,6 +15,7 @@
 #include "units/basConversions.h"
 
 #include <array>
+#include <cstdint>
 #include <string>
 
 namespace kestrova {
@@ -116,6 +117,8 @@ private:
     void storeField(int field);
     void showField(int field);
     void showGridRow(int list);
+    // A value cell's new text; CleanGrid looks at it again at its next call.
+    void setGridCell(int row, int column, std::string text);
     void showPercents();
     void setModified();
     void openSegmentInput(int line, bool fromDrawing);
@@ -125,6 +128,12 @@ private:
     void finishFileOperation();
     UserInterface& ui_;
     std::string fileName_;
+    // The value cells written since CleanGrid last looked at them: a cell it
+    // has looked at and left holds a text that does not read as zero, and
+    // stays so until it is written again, so the next cleaning skips it.
+    // One bit per column in each row's mask.
+    std::array<std::uint16_t, pump_network::kGridRows> cellsToClean_{};
+    static_assert(pump_network::kGridColumns <= 16);
 };
 
 } // namespace kestrova
