@@ -8,7 +8,6 @@
 #include "numeric/display_mask.h"
 #include "numeric/numeric_fault.h"
 
-#include <functional>
 #include <vector>
 
 namespace kestrova {
@@ -23,8 +22,9 @@ namespace {
 // One row of a map: while X is at or below `upToX`, the tests run from left to
 // right and the first boundary at or above ln Y names the regime.
 struct Test {
-    std::function<double(double u)> boundary;
+    double constant, slope; // the boundary's ln Y at u = ln X: constant + slope u
     const char* regime;
+    double boundary(double u) const { return constant + slope * u; }
 };
 struct Row {
     double upToX; // the last row holds every X
@@ -34,11 +34,12 @@ struct Row {
 
 Test line(double constant, double slope, const char* regime)
 {
-    return {[=](double u) { return constant + slope * u; }, regime};
+    return {constant, slope, regime};
 }
+// A level boundary: ln X is finite here, so 0 u adds nothing.
 Test level(double value, const char* regime)
 {
-    return {[=](double) { return value; }, regime};
+    return {value, 0.0, regime};
 }
 
 constexpr double kAnyX = 1e300;
@@ -134,7 +135,11 @@ RegimeMapReading FlowRegimeMap(const std::string& orientation, Single& liquidFlu
     const Single Y = Div(gasFlux, lambda);
 
     RegimeMapReading reading;
-    reading.mapCoordinates = "Flow Regime Map:  X = " + formatMask(X, "##,##0.0") + " , " + "Y = " + formatMask(Y, "###,##0.0");
+    reading.mapCoordinates.reserve(64);
+    reading.mapCoordinates.append("Flow Regime Map:  X = ")
+        .append(formatMask(X, "##,##0.0"))
+        .append(" , Y = ")
+        .append(formatMask(Y, "###,##0.0"));
     reading.regime = RegimeAt(orientation, X, Y);
     return reading;
 }

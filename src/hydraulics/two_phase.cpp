@@ -8,6 +8,8 @@
 #include "numeric/checked_math.h"
 #include "numeric/numeric_fault.h"
 
+#include <utility>
+
 namespace kestrova {
 
 using checked::Div;
@@ -180,10 +182,10 @@ void TwoPhaseDrop(const TwoPhaseLine& in, TwoPhaseResult& out)
         lockhartMartinelli(in, m, out);
     }
 
-    const RegimeMapReading reading = FlowRegimeMap(in.orientation, m.Gl, m.Gg, in.liquidDensity,
-                                                   in.gasDensity, in.liquidViscosity, m.sigma);
-    out.regime = reading.regime;
-    out.mapCoordinates = reading.mapCoordinates;
+    RegimeMapReading reading = FlowRegimeMap(in.orientation, m.Gl, m.Gg, in.liquidDensity, in.gasDensity,
+                                             in.liquidViscosity, m.sigma);
+    out.regime = std::move(reading.regime);
+    out.mapCoordinates = std::move(reading.mapCoordinates);
 }
 
 } // namespace kestrova

@@ -138,17 +138,27 @@ void appendFraction(std::string& text, const MaskLayout& layout, NumberSymbols s
         text.pop_back();
 }
 
-std::string fixedText(double magnitude, const MaskLayout& layout, NumberSymbols symbols, bool& isZero)
+// The text begins with the sign of a negative value that does not round to zero.
+std::string signedStart(bool negative, bool isZero, size_t length)
 {
-    DecimalForm form = decimalForm(magnitude);
+    std::string text;
+    text.reserve(length + 1);
+    if (negative && !isZero)
+        text.push_back('-');
+    return text;
+}
+
+std::string fixedText(double value, const MaskLayout& layout, NumberSymbols symbols)
+{
+    DecimalForm form = decimalForm(std::fabs(value));
     // Digits kept: those before the point plus the mask's decimals.
     roundDigits(form, form.exponent + 1 + layout.fractionMaximum);
-    isZero = form.count == 0;
+    const bool isZero = form.count == 0;
 
     const int pointAt = isZero ? 0 : form.exponent + 1; // digits before the point
     const int integerDigits = std::max(pointAt, layout.integerMinimum);
-    std::string text;
-    text.reserve(static_cast<size_t>(integerDigits + integerDigits / 3 + layout.fractionMaximum + 2));
+    std::string text = signedStart(value < 0.0, isZero,
+                                   static_cast<size_t>(integerDigits + integerDigits / 3 + layout.fractionMaximum + 1));
     for (int i = 0; i < integerDigits; ++i) {
         if (layout.grouped && i > 0 && (integerDigits - i) % 3 == 0)
             text.push_back(symbols.groupSeparator);
@@ -159,14 +169,15 @@ std::string fixedText(double magnitude, const MaskLayout& layout, NumberSymbols 
     return text;
 }
 
-std::string scientificText(double magnitude, const MaskLayout& layout, NumberSymbols symbols, bool& isZero)
+std::string scientificText(double value, const MaskLayout& layout, NumberSymbols symbols)
 {
     const int leading = layout.integerPlaceholders > 0 ? layout.integerPlaceholders : 1;
-    DecimalForm form = decimalForm(magnitude);
+    DecimalForm form = decimalForm(std::fabs(value));
     roundDigits(form, leading + layout.fractionMaximum);
-    isZero = form.count == 0;
+    const bool isZero = form.count == 0;
 
-    std::string text;
+    std::string text = signedStart(value < 0.0, isZero,
+                                   static_cast<size_t>(leading + layout.fractionMaximum + layout.exponentDigits + 4));
     for (int i = 0; i < leading; ++i)
         text.push_back(digitAt(form, i));
     if (layout.hasPoint)
@@ -177,10 +188,12 @@ std::string scientificText(double magnitude, const MaskLayout& layout, NumberSym
         text.push_back('-');
     else if (layout.exponentSignAlways)
         text.push_back('+');
-    const std::string exponentDigits = std::to_string(std::abs(exponent));
-    if (static_cast<int>(exponentDigits.size()) < layout.exponentDigits)
-        text.append(static_cast<size_t>(layout.exponentDigits) - exponentDigits.size(), '0');
-    return text + exponentDigits;
+    char digits[8];
+    const auto end = std::to_chars(digits, digits + sizeof digits, std::abs(exponent)).ptr;
+    const auto written = static_cast<int>(end - digits);
+    if (written < layout.exponentDigits)
+        text.append(static_cast<size_t>(layout.exponentDigits - written), '0');
+    return text.append(digits, end);
 }
 
 } // namespace
@@ -190,10 +203,7 @@ std::string formatMask(double value, std::string_view mask, NumberSymbols symbol
     if (!std::isfinite(value))
         raiseFault(FaultKind::Overflow, "a displayed value");
     const MaskLayout layout = readMask(mask);
-    bool isZero = false;
-    const std::string text = layout.scientific ? scientificText(std::fabs(value), layout, symbols, isZero)
-                                               : fixedText(std::fabs(value), layout, symbols, isZero);
-    return (value < 0.0 && !isZero) ? "-" + text : text;
+    return layout.scientific ? scientificText(value, layout, symbols) : fixedText(value, layout, symbols);
 }
 
 } // namespace kestrova
