@@ -89,6 +89,27 @@ TEST_F(PressureDropTest, AFailedRunZeroesTheDropAndLeavesTheRest)
     EXPECT_TRUE(tool.view().failed);
 }
 
+// Without a density every cross section fails at its velocity: the pipe's
+// diameter stays as typed, a duct's hydraulic diameter is formed before the
+// velocity and stays formed (1 ft by 0.5 ft: 2 x 12 x 6 / (12 + 6) = 8 in).
+TEST_F(PressureDropTest, ARunWithoutDensityFailsAtTheVelocity)
+{
+    enterWaterLine();
+    type(1, "0");
+    EXPECT_TRUE(tool.view().failed);
+    EXPECT_EQ(tool.view().record.Diameter, Single(6.065));
+
+    tool.optCrossSection_Click(1);
+    type(3, "1");
+    type(4, "0.5");
+    EXPECT_TRUE(tool.view().failed);
+    EXPECT_EQ(tool.view().record.Diameter, Single(8));
+    EXPECT_EQ(data(10), "0.00");
+
+    type(1, "62.4");
+    EXPECT_FALSE(tool.view().failed);
+}
+
 TEST_F(PressureDropTest, RegimeWordsAroundTheBoundary)
 {
     enterWaterLine();

@@ -67,6 +67,13 @@ SectionFlow flowThroughSection(int section, Single flow, Single density, Single&
     }
 }
 
+// A circular section's velocity divides the flow by the density first:
+// without a density (every fresh form) that division ends the run.
+bool velocityDividesByZeroDensity(int section, Single density)
+{
+    return section != 1 && section != 2 && density == 0;
+}
+
 const char* regimeWord(Single re) { return re >= 2100 ? "Turbulent" : "Laminar"; }
 
 } // namespace
@@ -111,6 +118,10 @@ void PressureDropModel::calculateLiquid()
     PressureDropData& r = record;
     const int section = crossSectionLiquid;
     const Single rho = r.LiquidDensity;
+    if (velocityDividesByZeroDensity(section, rho)) {
+        failureHandler(); // as the fault would, without raising it
+        return;
+    }
     const SectionFlow flow = flowThroughSection(section, r.LiquidFlow, rho, r.Diameter, r.ConduitWidth, r.ConduitHeight);
     r.Velocity = flow.velocity;
     showField(LiquidVelocity);
@@ -145,6 +156,10 @@ void PressureDropModel::calculateGas()
     showField(InletDensity);
 
     const int section = crossSectionGas - 3;
+    if (velocityDividesByZeroDensity(section, r.GasDensity)) {
+        failureHandler(); // as the fault would, without raising it
+        return;
+    }
     const SectionFlow flow = flowThroughSection(section, r.GasFlow, r.GasDensity, r.Diameter, r.ConduitWidth, r.ConduitHeight);
     r.Velocity = flow.velocity;
     const Single area = flow.area;
