@@ -3,6 +3,7 @@
 #include "calc/function_calls.h"
 #include "calc/json_result.h"
 #include "calc/request_args.h"
+#include "calc/request_json.h"
 #include "numeric/numeric_fault.h"
 
 #include <nlohmann/json.hpp>
@@ -84,7 +85,7 @@ std::string answerRequest(std::string_view line)
                                        std::to_string(kMaxRequestDepth) + " levels");
     nlohmann::json request;
     try {
-        request = nlohmann::json::parse(line);
+        request = parseRequestJson(line);
     } catch (const nlohmann::json::exception& error) {
         return errorAnswer("null", std::string("the line is not valid JSON: ") + error.what());
     }

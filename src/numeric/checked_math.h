@@ -28,6 +28,12 @@ double carefulLog(double x);
 double carefulSqr(double x);
 double carefulExp(double x);
 
+// The usual case's tests joined without branches between them.
+inline bool allOf(bool a, bool b, bool c)
+{
+    return static_cast<unsigned>(a) & static_cast<unsigned>(b) & static_cast<unsigned>(c);
+}
+
 inline double finite(double result, const char* operation)
 {
     if (!isFinite(result)) [[unlikely]]
@@ -38,7 +44,7 @@ inline double finite(double result, const char* operation)
 
 inline double Div(double numerator, double denominator)
 {
-    if (detail::isFinite(numerator) & detail::isFinite(denominator) & (denominator != 0.0)) [[likely]]
+    if (detail::allOf(detail::isFinite(numerator), detail::isFinite(denominator), denominator != 0.0)) [[likely]]
         return detail::finite(numerator / denominator, "a division");
     return detail::carefulDiv(numerator, denominator);
 }
@@ -46,7 +52,7 @@ inline double Div(double numerator, double denominator)
 // The general power operation.
 inline double Pow(double base, double exponent)
 {
-    if (detail::isFinite(base) & detail::isFinite(exponent) & (base > 0.0)) [[likely]]
+    if (detail::allOf(detail::isFinite(base), detail::isFinite(exponent), base > 0.0)) [[likely]]
         return detail::finite(std::pow(base, exponent), "a power");
     return detail::carefulPow(base, exponent);
 }
