@@ -6,16 +6,33 @@
 
 namespace kestrova::calc {
 
-double numberValue(const nlohmann::json& value, const std::string& name)
+namespace {
+
+// A finite number, or the request's error or fault naming the argument; the
+// name is made only for the message.
+template <typename Name>
+double checkedNumber(const nlohmann::json& value, const Name& name)
 {
     if (!value.is_number())
-        throw RequestError("argument '" + name + "' is not a number");
+        throw RequestError("argument '" + name() + "' is not a number");
     const double number = value.get<double>();
     if (!std::isfinite(number)) {
         FaultScope scope("arguments");
-        raiseFault(FaultKind::Overflow, ("argument '" + name + "'").c_str());
+        raiseFault(FaultKind::Overflow, ("argument '" + name() + "'").c_str());
     }
     return number;
+}
+
+} // namespace
+
+double numberValue(const nlohmann::json& value, const std::string& name)
+{
+    return checkedNumber(value, [&name] { return name; });
+}
+
+double elementValue(const nlohmann::json& value, std::string_view array, std::size_t index)
+{
+    return checkedNumber(value, [&] { return std::string(array) + "[" + std::to_string(index) + "]"; });
 }
 
 const nlohmann::json& RequestArgs::value(const std::string& name) const

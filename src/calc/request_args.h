@@ -10,6 +10,7 @@
 #include <cstdint>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 
 namespace kestrova::calc {
 
@@ -38,6 +39,8 @@ private:
 };
 
 double numberValue(const nlohmann::json& value, const std::string& name);
+// Element `index` of the array argument `array`, named "array[index]" in a message.
+double elementValue(const nlohmann::json& value, std::string_view array, std::size_t index);
 
 template <std::size_t N>
 std::array<double, N> RequestArgs::reals(const std::string& name) const
@@ -47,7 +50,7 @@ std::array<double, N> RequestArgs::reals(const std::string& name) const
         throw RequestError("argument '" + name + "' must be an array of " + std::to_string(N) + " numbers");
     std::array<double, N> numbers{};
     for (std::size_t i = 0; i < N; ++i)
-        numbers[i] = numberValue(list[i], name + "[" + std::to_string(i) + "]");
+        numbers[i] = elementValue(list[i], name, i);
     return numbers;
 }
 

@@ -184,7 +184,7 @@ void applyLineArray(const json& object, const char* name, LineValues& values)
     if (!found->is_array() || found->size() > 12)
         throw RequestError(std::string("argument '") + name + "' must be an array of at most 12 numbers");
     for (size_t i = 0; i < found->size(); ++i) {
-        const double number = numberValue((*found)[i], std::string(name) + "[" + std::to_string(i) + "]");
+        const double number = elementValue((*found)[i], name, i);
         FaultScope scope("arguments");
         values[i] = number;
     }

@@ -90,6 +90,11 @@ TEST(CalcProtocol, MalformedRequestsGetAClearError)
     }
     const json missing = answer(R"({"id": 3, "call": "FlowVelocity", "args": {"massFlow": 1}})");
     EXPECT_NE(missing["error"].get<std::string>().find("density"), std::string::npos);
+    // An element of an array argument is named with its index.
+    EXPECT_EQ(answer(R"({"id": 4, "call": "PropertyCorrelation", "args": {"T": 300, "Tc": 600, "coefficients": [1, 2, "x", 4, 5], "equation": 7}})")["error"],
+              "argument 'coefficients[2]' is not a number");
+    EXPECT_EQ(answer(R"({"id": 5, "call": "PumpNetwork.NetCalc", "args": {"SegID": [0, 4.026, null]}})")["error"],
+              "argument 'SegID[2]' is not a number");
 }
 
 TEST(CalcProtocol, GasFlowReportsMessagesAndBeeps)
