@@ -28,12 +28,6 @@ double carefulLog(double x);
 double carefulSqr(double x);
 double carefulExp(double x);
 
-// The usual case's tests joined without branches between them.
-inline bool allOf(bool a, bool b, bool c)
-{
-    return static_cast<unsigned>(a) & static_cast<unsigned>(b) & static_cast<unsigned>(c);
-}
-
 inline double finite(double result, const char* operation)
 {
     if (!isFinite(result)) [[unlikely]]
@@ -42,9 +36,17 @@ inline double finite(double result, const char* operation)
 }
 } // namespace detail
 
+// The usual case's tests are joined by & rather than &&, so that they make
+// one test without branches between them; clang's warning about & between
+// truth values does not apply here.
+#if defined(__clang__)
+#pragma clang diagnostic push
+#pragma clang diagnostic ignored "-Wbitwise-instead-of-logical"
+#endif
+
 inline double Div(double numerator, double denominator)
 {
-    if (detail::allOf(detail::isFinite(numerator), detail::isFinite(denominator), denominator != 0.0)) [[likely]]
+    if (detail::isFinite(numerator) & detail::isFinite(denominator) & (denominator != 0.0)) [[likely]]
         return detail::finite(numerator / denominator, "a division");
     return detail::carefulDiv(numerator, denominator);
 }
@@ -52,10 +54,14 @@ inline double Div(double numerator, double denominator)
 // The general power operation.
 inline double Pow(double base, double exponent)
 {
-    if (detail::allOf(detail::isFinite(base), detail::isFinite(exponent), base > 0.0)) [[likely]]
+    if (detail::isFinite(base) & detail::isFinite(exponent) & (base > 0.0)) [[likely]]
         return detail::finite(std::pow(base, exponent), "a power");
     return detail::carefulPow(base, exponent);
 }
+
+#if defined(__clang__)
+#pragma clang diagnostic pop
+#endif
 
 // The natural logarithm.
 inline double Log(double x)
