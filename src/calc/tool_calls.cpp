@@ -403,7 +403,6 @@ int controlIndex(const std::string& name, const std::string& family)
     return (error == std::errc() && end == last) ? index : -1;
 }
 
-
 void addToolCalls(std::map<std::string, CallSpec, std::less<>>& calls)
 {
     calls["PressureDrop.CalculateResults"] = {{}, pressureDropCalculateResults};

@@ -140,7 +140,7 @@ void reportPumpNetwork(const PumpNetworkModel& tool, JsonObject& result)
     for (size_t r = 0; r < form.grid.size(); ++r) {
         rows += r ? ", [" : "[";
         for (size_t c = 0; c < form.grid[r].size(); ++c)
-            rows.append(c ? ", " : "").append(quoted(form.grid[r][c]));
+            appendQuoted(rows.append(c ? ", " : ""), form.grid[r][c]);
         rows += "]";
     }
     result.raw("texts", texts.str()).raw("grid", rows + "]");

@@ -4,13 +4,6 @@
 
 namespace kestrova::checked::detail {
 
-namespace {
-void requireFinite(double operand, const char* operation)
-{
-    finite(operand, operation);
-}
-} // namespace
-
 void raiseNotFinite(double result, const char* operation)
 {
     raiseFault(std::isnan(result) ? FaultKind::InvalidOperation : FaultKind::Overflow, operation);
@@ -18,8 +11,8 @@ void raiseNotFinite(double result, const char* operation)
 
 double carefulDiv(double numerator, double denominator)
 {
-    requireFinite(numerator, "a division");
-    requireFinite(denominator, "a division");
+    finite(numerator, "a division");
+    finite(denominator, "a division");
     if (denominator == 0.0)
         raiseFault(FaultKind::DivisionByZero, "a division");
     return finite(numerator / denominator, "a division");
@@ -27,8 +20,8 @@ double carefulDiv(double numerator, double denominator)
 
 double carefulPow(double base, double exponent)
 {
-    requireFinite(base, "a power");
-    requireFinite(exponent, "a power");
+    finite(base, "a power");
+    finite(exponent, "a power");
     if (base == 0.0 && exponent < 0.0)
         raiseFault(FaultKind::DivisionByZero, "a power");
     if (base < 0.0 && exponent != std::trunc(exponent))
@@ -38,7 +31,7 @@ double carefulPow(double base, double exponent)
 
 double carefulLog(double x)
 {
-    requireFinite(x, "a logarithm");
+    finite(x, "a logarithm");
     if (x <= 0.0)
         raiseFault(FaultKind::InvalidOperation, "a logarithm");
     return std::log(x);
@@ -46,7 +39,7 @@ double carefulLog(double x)
 
 double carefulSqr(double x)
 {
-    requireFinite(x, "a square root");
+    finite(x, "a square root");
     if (x < 0.0)
         raiseFault(FaultKind::InvalidOperation, "a square root");
     return std::sqrt(x);
@@ -54,7 +47,7 @@ double carefulSqr(double x)
 
 double carefulExp(double x)
 {
-    requireFinite(x, "an exponential");
+    finite(x, "an exponential");
     return finite(std::exp(x), "an exponential");
 }
 

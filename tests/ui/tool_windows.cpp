@@ -1,10 +1,9 @@
 #include "tool_windows.h"
 
 #include "forms/model/scripted_user_interface.h"
-#include "forms/store/global_units.h"
+#include "frame/model/shared_stores.h"
 #include "tools/flow/model/gas_density_model.h"
 #include "tools/flow/ui/flow_dialogs.h"
-#include "tools/piping/model/minor_loss_store.h"
 #include "tools/piping/model/reducer_model.h"
 #include "tools/piping/model/roughness_model.h"
 #include "tools/piping/ui/piping_dialogs.h"
@@ -14,44 +13,47 @@
 
 using namespace kestrova;
 
+namespace {
+
+// A dialog tool's window over its model, handed to `check`.
+template <typename Window, typename Model>
+void checkWindow(Model& model, ScriptedUserInterface& ui, const std::function<void(QDialog&)>& check)
+{
+    Window window(model, ui, nullptr);
+    check(window);
+}
+
+// The same after the model's load, for the tools whose form loads.
+template <typename Window, typename Model>
+void checkLoadedWindow(Model& model, ScriptedUserInterface& ui, const std::function<void(QDialog&)>& check)
+{
+    model.Form_Load();
+    checkWindow<Window>(model, ui, check);
+}
+
+} // namespace
+
 void forEachDialogTool(const std::function<void(QDialog&)>& check)
 {
-    globalUnits() = GlobalUnits{};
-    minorLossStore() = MinorLossStore{};
+    resetSharedStores();
     ScriptedUserInterface ui;
     const QString folder = QCoreApplication::applicationDirPath();
     GasDensityModel density(ui);
-    density.Form_Load();
-    frmGasDensity densityWindow(density, ui, nullptr);
-    check(densityWindow);
+    checkLoadedWindow<frmGasDensity>(density, ui, check);
     CompressFactorModel z(ui, nullptr);
-    z.Form_Load();
-    frmCompressFactor zWindow(z, ui, nullptr);
-    check(zWindow);
+    checkLoadedWindow<frmCompressFactor>(z, ui, check);
     HeatCapRatioModel ratio(ui);
-    frmHeatCapRatio ratioWindow(ratio, ui, nullptr);
-    check(ratioWindow);
+    checkWindow<frmHeatCapRatio>(ratio, ui, check);
     FlowConversionsModel flow(nullptr);
-    flow.Form_Load();
-    frmFlowConversions flowWindow(flow, ui, nullptr);
-    check(flowWindow);
+    checkLoadedWindow<frmFlowConversions>(flow, ui, check);
     PipeModel pipes(ui, nullptr, folder);
-    pipes.Form_Load();
-    frmPipe pipesWindow(pipes, ui, nullptr);
-    check(pipesWindow);
+    checkLoadedWindow<frmPipe>(pipes, ui, check);
     RoughnessModel roughness(ui, nullptr);
-    roughness.Form_Load();
-    frmRoughness roughnessWindow(roughness, ui, nullptr);
-    check(roughnessWindow);
+    checkLoadedWindow<frmRoughness>(roughness, ui, check);
     MinorLossesModel losses(ui);
-    losses.Form_Load();
-    frmMinorLosses lossesWindow(losses, ui, nullptr);
-    check(lossesWindow);
+    checkLoadedWindow<frmMinorLosses>(losses, ui, check);
     ReducerModel reducer(ReducerKind::Contraction, ui);
-    reducer.Form_Load();
-    frmReducer reducerWindow(reducer, ui, nullptr);
-    check(reducerWindow);
+    checkLoadedWindow<frmReducer>(reducer, ui, check);
     PhysicalPropertiesModel properties(ui, readCompounds(folder + "/compounds.sqlite"));
-    frmPhysicalProperties propertiesWindow(properties, ui, nullptr);
-    check(propertiesWindow);
+    checkWindow<frmPhysicalProperties>(properties, ui, check);
 }

@@ -6,6 +6,7 @@
 // event routine ends.
 
 #include "forms/model/controls.h"
+#include "forms/model/help_contexts.h"
 
 #include <QObject>
 
@@ -51,7 +52,7 @@ public:
     // The window's caption; empty keeps the one it has.
     virtual std::string windowCaption() const { return {}; }
     // The context number of the form's help topic (help_contexts.h), which F1 opens.
-    virtual int helpTopic() const { return 1000; }
+    virtual int helpTopic() const { return help::Contents; }
 
     // The control that is to take the focus next, handed over once.
     std::optional<Control> takeFocusRequest() { return std::exchange(focusRequest_, std::nullopt); }

@@ -1,9 +1,9 @@
 #include "frame/model/frame_model.h"
-#include "forms/store/program_files.h"
 
 #include "datasheets/model/data_sheet.h"
 #include "forms/model/document_tool.h"
 #include "forms/store/global_units.h"
+#include "forms/store/program_files.h"
 #include "forms/store/project_file.h"
 #include "forms/store/settings_store.h"
 #include "forms/model/user_interface.h"
@@ -11,8 +11,6 @@
 #include "numeric/numeric_fault.h"
 #include "tools/properties/model/compound_data_base.h"
 
-#include <QCoreApplication>
-#include <QDir>
 #include <QFileInfo>
 
 namespace kestrova {

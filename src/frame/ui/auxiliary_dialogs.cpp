@@ -1,6 +1,6 @@
 #include "frame/ui/auxiliary_dialogs.h"
-#include "forms/store/program_files.h"
 
+#include "forms/store/program_files.h"
 #include "frame/ui/program_icon.h"
 
 #include "frame/model/company_info_model.h"

@@ -4,8 +4,8 @@
 // it through the entry point of its model, on the same made tool.
 
 #include "frame/ui/gui_user_interface.h"
-#include "forms/store/program_files.h"
 
+#include "forms/store/program_files.h"
 #include "forms/store/settings_store.h"
 #include "frame/model/frame_model.h"
 #include "frame/ui/frmMain.h"
@@ -17,7 +17,6 @@
 #include "tools/properties/model/phys_props.h"
 #include "tools/properties/ui/property_dialogs.h"
 
-#include <QCoreApplication>
 
 #include <map>
 #include <optional>
@@ -27,11 +26,6 @@ namespace kestrova {
 namespace {
 
 const char* kNoDataBase = "The physical properties data base cannot be found. Use File, Locate Data Base to choose it.";
-
-QString programFolder()
-{
-    return programDataFolder();
-}
 
 // A model loaded as its form loads, before its window is made over it.
 template <typename Model>
@@ -43,7 +37,7 @@ Model& loaded(Model& model)
 
 struct PipeTool {
     explicit PipeTool(GuiUserInterface& ui)
-        : model(ui, &ui.frame().settings(), programFolder()), window(loaded(model), ui, &ui.frame())
+        : model(ui, &ui.frame().settings(), programDataFolder()), window(loaded(model), ui, &ui.frame())
     {
         model.Form_Activate();
     }

@@ -1,8 +1,8 @@
 #include "frame/ui/help_system.h"
-#include "forms/store/program_files.h"
 
 #include "forms/model/help_contexts.h"
 #include "forms/model/user_interface.h"
+#include "forms/store/program_files.h"
 #include "forms/ui/form_view.h"
 #include "frame/ui/help_viewer.h"
 

@@ -4,8 +4,8 @@
 // event routines by control.
 
 #include "tools/orifice/model/orifice_model.h"
-#include "forms/model/user_interface.h"
 
+#include "forms/model/user_interface.h"
 #include "units/field_kinds.h"
 
 namespace kestrova {

@@ -1,7 +1,6 @@
 #include "tools/pump_network/ui/network_drawing.h"
 
 #include "forms/ui/accessible_names.h"
-
 #include "forms/ui/form_view.h"
 #include "tools/pump_network/model/pump_network_model.h"
 
@@ -29,10 +28,6 @@ QString lineCaption(int line)
 {
     return line == 3 ? QString("Line 3, back to the source") : QString("Line %1").arg(line);
 }
-
-} // namespace
-
-namespace {
 
 // What a screen reader calls a field of the drawing: its caption and the
 // line it belongs to ("Flow, line 8"), since every terminal line's box and
